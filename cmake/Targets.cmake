@@ -1,0 +1,23 @@
+# What the targets of this project have in common.
+
+# The language, warnings and sanitizers of every target.
+function(dxmd_target_options target)
+  target_compile_features(${target} PUBLIC cxx_std_17)
+  set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+  target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow -Wconversion $<$<BOOL:${DXMD_WERROR}>:-Werror>)
+  if(DXMD_SANITIZE)
+    target_compile_options(${target} PRIVATE -fsanitize=${DXMD_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(${target} PRIVATE -fsanitize=${DXMD_SANITIZE})
+  endif()
+endfunction()
+
+# A shared library with a name and version of its own; its headers are included as they are installed.
+function(dxmd_add_library target alias output)
+  add_library(${target} SHARED)
+  add_library(${alias} ALIAS ${target})
+  string(REGEX REPLACE ".*::" "" export_name ${alias})
+  set_target_properties(${target} PROPERTIES
+    OUTPUT_NAME ${output} EXPORT_NAME ${export_name} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+  target_link_options(${target} PRIVATE -Wl,--no-undefined)
+  dxmd_target_options(${target})
+endfunction()

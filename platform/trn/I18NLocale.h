@@ -1,0 +1,18 @@
+#ifndef TRN_I18NLOCALE_H
+#define TRN_I18NLOCALE_H
+
+#include <trn/I18NString.h>
+#include <trn/TRNExport.h>
+
+/// The name of a locale, kept exactly as given: it goes onto the wire and is never interpreted.
+class TRN_API I18NLocale {
+ public:
+  explicit I18NLocale(const I18NString& name);
+
+  const I18NString& getName() const noexcept { return m_name; }
+
+ private:
+  I18NString m_name;
+};
+
+#endif

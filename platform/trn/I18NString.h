@@ -1,0 +1,87 @@
+#ifndef TRN_I18NSTRING_H
+#define TRN_I18NSTRING_H
+
+#include <cstddef>
+#include <functional>
+#include <iosfwd>
+#include <string>
+
+#include <trn/TRNExport.h>
+
+/// Unicode text: the type of every name and value.
+///
+/// Text is held as UTF-16 and compared exactly, code unit by code unit, without regard to locale or normalisation.
+/// It is immutable by habit: assignment and `+=` are the only operations that change an object. Copying a long text
+/// shares its characters.
+///
+/// Threads: const operations are safe on one object from any number of threads at once, `c_str()` included.
+/// Exhausted memory is `std::bad_alloc` throughout.
+class TRN_API I18NString {
+ public:
+  /// Told of each malformed sequence while bytes are converted: the caller's context, the bytes and their number.
+  /// It may throw, which abandons the conversion; when it returns, the sequence becomes U+FFFD.
+  using ConversionCallback = void (*)(void* context, const char* bytes, std::size_t length);
+
+  /// The empty text.
+  I18NString() noexcept;
+
+  /// Converts 8-bit text. Null text is empty.
+  /// @param text      the bytes; not kept.
+  /// @param encoding  name of their encoding; null is UTF-8.
+  /// @param length    number of bytes; -1 runs to the NUL.
+  /// @param callback  told of malformed sequences; may be null.
+  /// @param context   handed to the callback.
+  /// @throws std::invalid_argument for an unknown encoding, naming it; whatever the callback throws.
+  I18NString(const char* text, const char* encoding = nullptr, long length = -1,  // NOLINT: implicit by design
+             ConversionCallback callback = nullptr, void* context = nullptr);
+
+  /// The text of `length` UTF-16 code units; null text with length 0 is empty.
+  static I18NString fromUtf16(const char16_t* text, std::size_t length);
+
+  I18NString(const I18NString& other);
+  I18NString(I18NString&& other) noexcept;
+  I18NString& operator=(const I18NString& other);
+  I18NString& operator=(I18NString&& other) noexcept;
+  ~I18NString();
+
+  bool empty() const noexcept { return length() == 0; }
+
+  /// Length in UTF-16 code units.
+  std::size_t length() const noexcept;
+
+  /// The text as NUL-terminated UTF-16, valid while this object is unchanged.
+  const char16_t* c_str() const noexcept;
+
+  /// The text as UTF-8; a lone surrogate becomes U+FFFD.
+  std::string toUtf8() const;
+
+  I18NString& operator+=(const I18NString& other);
+
+  friend I18NString operator+(const I18NString& left, const I18NString& right) {
+    I18NString result(left);
+    result += right;
+    return result;
+  }
+  friend bool operator==(const I18NString& left, const I18NString& right) noexcept { return left.equals(right); }
+  friend bool operator!=(const I18NString& left, const I18NString& right) noexcept { return !left.equals(right); }
+
+  /// A total order by UTF-16 code unit.
+  friend bool operator<(const I18NString& left, const I18NString& right) noexcept { return left.precedes(right); }
+
+ private:
+  bool equals(const I18NString& other) const noexcept;
+  bool precedes(const I18NString& other) const noexcept;
+
+  // ICU's string object, built in place; the source asserts that it fits.
+  alignas(8) unsigned char m_storage[64];
+};
+
+/// Writes the text as UTF-8.
+TRN_API std::ostream& operator<<(std::ostream& out, const I18NString& text);
+
+template <>
+struct std::hash<I18NString> {
+  TRN_API std::size_t operator()(const I18NString& text) const noexcept;
+};
+
+#endif

@@ -1,0 +1,20 @@
+#ifndef TRN_TRNFILELOCATION_H
+#define TRN_TRNFILELOCATION_H
+
+#include <trn/TRNExport.h>
+
+/// A place in the sources: the file's name without folder or ending, and the line.
+class TRN_API TRNFileLocation {
+ public:
+  /// @param file  a text that lives as long as the process; not copied.
+  constexpr TRNFileLocation(const char* file, int line) noexcept : m_file(file), m_line(line) {}
+
+  constexpr const char* getFile() const noexcept { return m_file; }
+  constexpr int getLine() const noexcept { return m_line; }
+
+ private:
+  const char* m_file;
+  int m_line;
+};
+
+#endif

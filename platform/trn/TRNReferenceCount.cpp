@@ -1,0 +1,3 @@
+#include <trn/TRNReferenceCount.h>
+
+TRNReferenceCount::~TRNReferenceCount() = default;

@@ -1,0 +1,40 @@
+#ifndef TRNIDOM_TRNIDOM_DOCUMENT_H
+#define TRNIDOM_TRNIDOM_DOCUMENT_H
+
+#include <utility>
+
+#include <trn/I18NString.h>
+#include <trnidom/TRNIDOM_Element.h>
+#include <trnidom/TRNIDOM_Export.h>
+#include <trnidom/TRNIDOM_Node.h>
+#include <trnidom/TRNIDOM_NodeList.h>
+
+/// A handle to a document.
+///
+/// The document element that `TRNIDOM_DOMImplementation::createDocument` made is a placeholder as long as it has
+/// neither child nor attribute: the first other element appended to the document takes its place, and handles to it
+/// stay valid and are then detached. Appending beside a real document element is `HIERARCHY_REQUEST_ERR`.
+///
+/// Creating on a null document throws TRNIDOM_DOMException, as does a malformed name (`INVALID_CHARACTER_ERR`).
+/// What is created belongs to this document and has no parent.
+class TRNIDOM_API TRNIDOM_Document : public TRNIDOM_Node {
+ public:
+  TRNIDOM_Document() noexcept = default;
+  TRNIDOM_Document(const TRNIDOM_Node& node) noexcept : TRNIDOM_Node(node) {}        // NOLINT: implicit by design
+  TRNIDOM_Document(TRNIDOM_Node&& node) noexcept : TRNIDOM_Node(std::move(node)) {}  // NOLINT: implicit by design
+
+  TRNIDOM_Element createElement(const I18NString& tagName);
+  TRNIDOM_Node createTextNode(const I18NString& data);
+  TRNIDOM_Node createComment(const I18NString& data);
+  TRNIDOM_Node createCDATASection(const I18NString& data);
+
+  /// A copy of a node of any document, belonging to this one; children go along when `deep`. Null gives null.
+  TRNIDOM_Node importNode(const TRNIDOM_Node& node, bool deep);
+
+  TRNIDOM_Element getDocumentElement() const noexcept;
+
+  /// The elements of that name in document order, live; "*" stands for every name.
+  TRNIDOM_NodeList getElementsByTagName(const I18NString& name) const;
+};
+
+#endif

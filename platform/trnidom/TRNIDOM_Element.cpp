@@ -1,0 +1,75 @@
+#include <trnidom/TRNIDOM_Element.h>
+
+#include <trnidom/TRNIDOM_DOMException.h>
+
+#include "Control.h"
+#include "ListRecord.h"
+#include "NodeOps.h"
+#include "Xerces.h"
+
+using namespace trnidom_detail;
+using xercesc::DOMNode;
+
+namespace {
+
+/// The node when it is an element, or null.
+DOMNode* elementOf(const TRNIDOM_Node& handle) noexcept {
+  DOMNode* node = Access::node(handle);
+  return node != nullptr && node->getNodeType() == DOMNode::ELEMENT_NODE ? node : nullptr;
+}
+
+DOMNode* requireElement(const char* tried, const TRNIDOM_Node& handle) {
+  DOMNode* element = elementOf(handle);
+  if (element == nullptr) {
+    DOMNode* node = Access::node(handle);
+    fail(node == nullptr ? TRNIDOM_DOMException::INVALID_STATE_ERR : TRNIDOM_DOMException::NOT_SUPPORTED_ERR, tried,
+         node, "there is no element");
+  }
+  return element;
+}
+
+}  // namespace
+
+I18NString TRNIDOM_Element::getTagName() const {
+  const DOMNode* element = elementOf(*this);
+  return element != nullptr ? stringOf(Text(ops::name(element))) : I18NString();
+}
+
+I18NString TRNIDOM_Element::getAttribute(const I18NString& name) const {
+  const DOMNode* element = elementOf(*this);
+  const DOMNode* attribute = element != nullptr ? ops::attribute(element, textOf(name)) : nullptr;
+  if (attribute == nullptr) return {};
+  return guarded("getAttribute", attribute, [&] { return stringOf(ops::value(attribute)); });
+}
+
+bool TRNIDOM_Element::hasAttribute(const I18NString& name) const noexcept {
+  const DOMNode* element = elementOf(*this);
+  return element != nullptr && ops::attribute(element, textOf(name)) != nullptr;
+}
+
+void TRNIDOM_Element::setAttribute(const I18NString& name, const I18NString& value) {
+  static constexpr const char* kTried = "setAttribute";
+  DOMNode* element = requireElement(kTried, *this);
+  requireNoNul(textOf(value), kTried, element);
+  DOMNode* attribute = ops::attribute(element, textOf(name));
+  if (attribute == nullptr) requireName(textOf(name), kTried, element);
+  guarded(kTried, element, [&] {
+    if (attribute != nullptr)
+      ops::setValue(attribute, textOf(value));
+    else
+      ops::addAttribute(element, textOf(name), textOf(value));
+  });
+  Access::control(*this)->indexes.attributeChanged(element, textOf(name));
+}
+
+void TRNIDOM_Element::removeAttribute(const I18NString& name) {
+  DOMNode* element = requireElement("removeAttribute", *this);
+  DOMNode* attribute = ops::attribute(element, textOf(name));
+  if (attribute == nullptr) return;
+  ops::removeAttribute(element, attribute);
+  Access::control(*this)->indexes.attributeChanged(element, textOf(name));
+}
+
+TRNIDOM_NodeList TRNIDOM_Element::getElementsByTagName(const I18NString& name) const {
+  return elementOf(*this) != nullptr ? descendantList(*this, name) : TRNIDOM_NodeList();
+}

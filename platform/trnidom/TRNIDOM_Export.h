@@ -1,0 +1,7 @@
+#ifndef TRNIDOM_TRNIDOM_EXPORT_H
+#define TRNIDOM_TRNIDOM_EXPORT_H
+
+/// Marks what the DOM wrapper exports; everything else in it is hidden.
+#define TRNIDOM_API __attribute__((visibility("default")))
+
+#endif

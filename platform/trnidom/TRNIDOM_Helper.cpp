@@ -1,0 +1,124 @@
+#include <trnidom/TRNIDOM_Helper.h>
+
+#include <trnidom/TRNIDOM_Document.h>
+
+#include "Control.h"
+#include "NodeOps.h"
+#include "Tree.h"
+#include "Xerces.h"
+
+using namespace trnidom_detail;
+using xercesc::DOMNode;
+
+namespace {
+
+bool isElement(const DOMNode* node) noexcept {
+  return node->getNodeType() == DOMNode::ELEMENT_NODE;
+}
+
+bool isText(const DOMNode* node) noexcept {
+  const auto type = node->getNodeType();
+  return type == DOMNode::TEXT_NODE || type == DOMNode::CDATA_SECTION_NODE;
+}
+
+TRNIDOM_Element findChild(const TRNIDOM_Node& parent, const ChildKey& key) {
+  return guarded("findOrCreate", Access::node(parent), [&] {
+    return Access::handle(Access::control(parent)->indexes.find(Access::node(parent), key), parent);
+  });
+}
+
+/// A new element of the parent's document, which may be the parent itself.
+TRNIDOM_Element newElement(const TRNIDOM_Node& parent, const I18NString& name) {
+  Control* control = Access::control(parent);
+  return TRNIDOM_Document(Access::handle(control->document, control)).createElement(name);
+}
+
+TRNIDOM_Element appended(const TRNIDOM_Node& parent, const TRNIDOM_Node& child) {
+  return TRNIDOM_Node(parent).appendChild(child);
+}
+
+}  // namespace
+
+TRNIDOM_Element TRNIDOM_Helper::findChildElement(const TRNIDOM_Node& parent, const I18NString& name) {
+  if (parent.isNull()) return {};
+  return findChild(parent, {ChildKey::kName, textOf(name), Text(), Text()});
+}
+
+TRNIDOM_Element TRNIDOM_Helper::findNextSiblingElement(const TRNIDOM_Node& node, const I18NString& name) {
+  if (node.isNull()) return {};
+  const DOMNode* at = Access::node(node);
+  NameMatcher named(textOf(name));
+  while ((at = ops::nextSibling(at)) != nullptr)
+    if (isElement(at) && named(ops::name(at))) return Access::handle(const_cast<DOMNode*>(at), node);
+  return {};
+}
+
+TRNIDOM_Element TRNIDOM_Helper::findFirstElement(const TRNIDOM_Node& parent, const I18NString& name) {
+  if (parent.isNull()) return {};
+  const DOMNode* root = Access::node(parent);
+  NameMatcher named(textOf(name));
+  for (DOMNode* node = nextBelow(root, root); node != nullptr; node = nextBelow(root, node))
+    if (isElement(node) && named(ops::name(node))) return Access::handle(node, parent);
+  return {};
+}
+
+TRNIDOM_Element TRNIDOM_Helper::findElementWithAttribute(const TRNIDOM_Node& parent, const I18NString& name,
+                                                         const I18NString& attrName, const I18NString& attrValue) {
+  if (parent.isNull()) return {};
+  const DOMNode* root = Access::node(parent);
+  const ChildKey key{ChildKey::kAttribute, textOf(name), textOf(attrName), textOf(attrValue)};
+  return guarded("findElementWithAttribute", root, [&]() -> TRNIDOM_Element {
+    for (DOMNode* node = nextBelow(root, root); node != nullptr; node = nextBelow(root, node))
+      if (matches(node, key)) return Access::handle(node, parent);
+    return {};
+  });
+}
+
+TRNIDOM_Element TRNIDOM_Helper::findOrCreateElement(const TRNIDOM_Node& parent, const I18NString& name) {
+  TRNIDOM_Element found = findChildElement(parent, name);
+  if (!found.isNull() || parent.isNull()) return found;
+  return appended(parent, newElement(parent, name));
+}
+
+TRNIDOM_Element TRNIDOM_Helper::findOrCreateElementWithText(const TRNIDOM_Node& parent, const I18NString& name,
+                                                            const I18NString& text) {
+  if (parent.isNull()) return {};
+  TRNIDOM_Element found = findChild(parent, {ChildKey::kText, textOf(name), Text(), textOf(text)});
+  if (!found.isNull()) return found;
+  TRNIDOM_Element made = newElement(parent, name);
+  if (!text.empty()) made.appendChild(made.getOwnerDocument().createTextNode(text));
+  return appended(parent, made);
+}
+
+TRNIDOM_Element TRNIDOM_Helper::findOrCreateElementWithAttribute(const TRNIDOM_Node& parent, const I18NString& name,
+                                                                 const I18NString& attrName,
+                                                                 const I18NString& attrValue) {
+  if (parent.isNull()) return {};
+  TRNIDOM_Element found = findChild(parent, {ChildKey::kAttribute, textOf(name), textOf(attrName), textOf(attrValue)});
+  if (!found.isNull()) return found;
+  TRNIDOM_Element made = newElement(parent, name);
+  made.setAttribute(attrName, attrValue);
+  return appended(parent, made);
+}
+
+I18NString TRNIDOM_Helper::getElementText(const TRNIDOM_Node& element) {
+  if (element.getNodeType() != TRNIDOM_Node::ELEMENT_NODE) return {};
+  const DOMNode* first = nullptr;
+  std::u16string all;  // of several, which is rare
+  for (const DOMNode* child = ops::firstChild(Access::node(element)); child != nullptr;
+       child = ops::nextSibling(child)) {
+    if (!isText(child)) continue;
+    if (first == nullptr) {
+      first = child;
+      continue;
+    }
+    if (all.empty()) all = ops::value(first);
+    all += ops::value(child);
+  }
+  if (first == nullptr) return {};
+  return stringOf(all.empty() ? ops::value(first) : Text(all));
+}
+
+void TRNIDOM_Helper::getElementText(const TRNIDOM_Node& element, I18NString& out) {
+  out = getElementText(element);
+}

@@ -1,0 +1,130 @@
+#include <trnidom/TRNIDOM_Parser.h>
+
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+#include <system_error>
+#include <vector>
+
+#include <trnidom/TRNIDOM_ParseError.h>
+#include <xercesc/framework/MemBufInputSource.hpp>
+#include <xercesc/framework/XMLAttr.hpp>
+#include <xercesc/framework/XMLElementDecl.hpp>
+#include <xercesc/util/XMLUni.hpp>
+
+#include "Control.h"
+#include "NodeOps.h"
+#include "Scanner.h"
+#include "Xerces.h"
+
+using namespace trnidom_detail;
+using namespace xercesc;
+
+namespace {
+
+/// Builds the tree of what the scanner finds.
+class Builder final : public XMLDocumentHandler, public XMLErrorReporter {
+ public:
+  explicit Builder(DOMDocument* document) : m_document(document), m_parent(document) {}
+
+  void startElement(const XMLElementDecl& declaration, const unsigned int, const XMLCh* const,
+                    const RefVectorOf<XMLAttr>& attributes, const XMLSize_t count, const bool isEmpty,
+                    const bool) override {
+    DOMNode* element = ops::newElement(m_document, declaration.getFullName());
+    for (XMLSize_t i = 0; i < count; ++i) {
+      const XMLAttr* attribute = attributes.elementAt(i);
+      ops::addAttribute(element, attribute->getName(), attribute->getValue());
+    }
+    append(element);
+    if (!isEmpty) m_parent = element;
+  }
+
+  void endElement(const XMLElementDecl&, const unsigned int, const bool, const XMLCh* const) override {
+    flushText();
+    m_parent = ops::parent(m_parent);
+  }
+
+  void docCharacters(const XMLCh* const text, const XMLSize_t length, const bool isCDATA) override {
+    if (m_parent == m_document) return;
+    if (isCDATA)
+      append(ops::newCDATASection(m_document, {text, length}));
+    else
+      m_text.append(text, length);
+  }
+
+  void docComment(const XMLCh* const text) override { append(ops::newComment(m_document, text)); }
+
+  void docPI(const XMLCh* const target, const XMLCh* const data) override {
+    append(ops::newProcessingInstruction(m_document, target, data));
+  }
+
+  void XMLDecl(const XMLCh* const version, const XMLCh* const, const XMLCh* const, const XMLCh* const) override {
+    if (Text(version) != XMLUni::fgVersion1_0) throw TRNIDOM_ParseError(1, 1, "only XML 1.0 is supported");
+  }
+
+  void error(const unsigned int, const XMLCh* const, const ErrTypes type, const XMLCh* const text, const XMLCh* const,
+             const XMLCh* const, const XMLFileLoc line, const XMLFileLoc column) override {
+    if (type == ErrType_Warning) return;
+    throw TRNIDOM_ParseError(static_cast<std::size_t>(line), static_cast<std::size_t>(column),
+                             stringOf(textOf(text)).toUtf8());
+  }
+
+  // White space outside the document element is no node.
+  void ignorableWhitespace(const XMLCh* const, const XMLSize_t, const bool) override {}
+  void startDocument() override {}
+  void endDocument() override {}
+  void resetDocument() override {}
+  void resetErrors() override {}
+  void startEntityReference(const XMLEntityDecl&) override {}
+  void endEntityReference(const XMLEntityDecl&) override {}
+
+ private:
+  void append(DOMNode* node) {
+    flushText();
+    ops::link(m_parent, node, nullptr);
+  }
+
+  /// A run of characters may arrive in pieces.
+  void flushText() {
+    if (m_text.empty()) return;
+    ops::link(m_parent, ops::newText(m_document, m_text), nullptr);
+    m_text.clear();
+  }
+
+  DOMDocument* m_document;
+  DOMNode* m_parent;
+  std::u16string m_text;
+};
+
+}  // namespace
+
+TRNIDOM_Document TRNIDOM_Parser::parseString(const std::string& bytes) {
+  TRNIDOM_Document made = newDocument();
+  Control* control = Access::control(made);
+  try {
+    DocumentMemory memory;
+    const MemBufInputSource source(reinterpret_cast<const XMLByte*>(bytes.data()), bytes.size(), u"document", false,
+                                   &memory);
+    Builder builder(control->document);
+    scan(source, builder, builder, memory);
+  } catch (const OutOfMemoryException&) {
+    throw std::bad_alloc();
+  } catch (const XMLException& error) {
+    throw TRNIDOM_ParseError(0, 0, stringOf(textOf(error.getMessage())).toUtf8());
+  }
+  return made;
+}
+
+TRNIDOM_Document TRNIDOM_Parser::parseFile(const std::string& path) {
+  const auto unreadable = [&path] {
+    return TRNIDOM_ParseError(0, 0, "cannot read \"" + path + "\": " + std::generic_category().message(errno));
+  };
+  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"), std::fclose);
+  if (file == nullptr) throw unreadable();
+  std::string bytes;
+  std::vector<char> buffer(std::size_t{1} << 16);
+  while (const std::size_t count = std::fread(buffer.data(), 1, buffer.size(), file.get()))
+    bytes.append(buffer.data(), count);
+  if (std::ferror(file.get()) != 0) throw unreadable();
+  return parseString(bytes);
+}

@@ -1,0 +1,140 @@
+#include <cstdio>
+#include <fstream>
+
+#include "TestSupport.h"
+
+#include <trnidom/TRNIDOM_NodeList.h>
+#include <trnidom/TRNIDOM_ParseError.h>
+#include <trnidom/TRNIDOM_Parser.h>
+
+using namespace dxmd_test;
+
+namespace {
+
+/// The place of the error that parsing ends in, as "LINE:COLUMN".
+std::string errorPlace(const std::string& xml) {
+  try {
+    TRNIDOM_Parser::parseString(xml);
+  } catch (const TRNIDOM_ParseError& error) {
+    EXPECT_FALSE(error.getReason().empty());
+    const std::string place = std::to_string(error.getLine()) + ":" + std::to_string(error.getColumn());
+    EXPECT_EQ(place + ": " + error.getReason(), error.what());
+    return place;
+  }
+  return "parsed";
+}
+
+std::string utf16(const std::u16string& text, bool bigEndian) {
+  std::string bytes;
+  for (const char16_t unit : text) {
+    const char low = static_cast<char>(unit & 0xFF);
+    const char high = static_cast<char>(unit >> 8);
+    bytes += bigEndian ? high : low;
+    bytes += bigEndian ? low : high;
+  }
+  return bytes;
+}
+
+}  // namespace
+
+TEST(Parser, KeepsEveryKindOfNode) {
+  const std::string xml = "<?p i?><!--c--><a> <b/>\n<![CDATA[<d>]]><?q?><!--e--></a><!--f-->";
+  EXPECT_EQ(xml, xmlOf(TRNIDOM_Parser::parseString(xml)));
+  EXPECT_EQ("<a><b/></a>", xmlOf(TRNIDOM_Parser::parseString("\n<a><b/></a>\n\n")));
+}
+
+TEST(Parser, MakesOneTextOfARunOfCharacters) {
+  std::string run;
+  for (int i = 0; i < 50000; ++i) run += "a&amp;&#x62;\r\nc]";
+  const TRNIDOM_Element a = parsed("<a>" + run + "<![CDATA[]]></a>");
+  EXPECT_EQ(2U, a.getChildNodes().getLength());
+  EXPECT_EQ(300000U, a.getFirstChild().getNodeValue().length());
+  EXPECT_EQ("a&b\nc]a&", a.getFirstChild().getNodeValue().toUtf8().substr(0, 8));
+}
+
+TEST(Parser, NeedsNoDeclarationOfPrefixes) {
+  const TRNIDOM_Element a = parsed("<p:a q:b='1' xmlns='u'><r:c/></p:a>");
+  EXPECT_EQ("p:a", a.getTagName().toUtf8());
+  EXPECT_EQ("1", a.getAttribute("q:b").toUtf8());
+  EXPECT_EQ("u", a.getAttribute("xmlns").toUtf8());
+}
+
+TEST(Parser, NormalisesAttributesAsXmlSays) {
+  EXPECT_EQ("1 2 3\n\t&<\"", parsed("<a x='1\t2\r\n3&#10;&#9;&amp;&lt;&quot;'/>").getAttribute("x").toUtf8());
+}
+
+TEST(Parser, TakesTheEncodingFromTheDocument) {
+  const std::string expected = "<a x=\"\xC3\xA4\"/>";
+  EXPECT_EQ(expected, xmlOf(parsed("<?xml version='1.0' encoding='ISO-8859-1'?><a x='\xE4'/>")));
+  EXPECT_EQ(expected, xmlOf(parsed("\xEF\xBB\xBF<a x='\xC3\xA4'/>")));
+  EXPECT_EQ(expected, xmlOf(parsed("<a x='\xC3\xA4'/>")));
+  for (const bool bigEndian : {false, true})
+    EXPECT_EQ(expected, xmlOf(parsed(utf16(u"\uFEFF<a x='\u00E4'/>", bigEndian))));
+  EXPECT_EQ("1:41", errorPlace("<?xml version='1.0' encoding='no-such'?><a/>"));
+}
+
+TEST(Parser, SaysWhereADocumentIsMalformed) {
+  EXPECT_EQ("2:3", errorPlace("<a>\n</b>"));
+  EXPECT_EQ("1:12", errorPlace("<a x='1' x='2'/>"));
+  for (const char* xml : {"",
+                          " ",
+                          "text",
+                          "<a",
+                          "<a>",
+                          "<a><b></a>",
+                          "<a/><b/>",
+                          "<a x/>",
+                          "<a x=1/>",
+                          "<a>&undefined;</a>",
+                          "<a>&#0;</a>",
+                          "<a>\x01</a>",
+                          "<a>]]></a>",
+                          "<a><!-- -- --></a>",
+                          "<a>&",
+                          "<a x='<'/>",
+                          "<a>\xFF</a>",
+                          "<a><![CDATA[</a>",
+                          "<?xml version='1.1'?><a/>",
+                          " <?xml version='1.0'?><a/>",
+                          "<1/>",
+                          "<a></a >x",
+                          "<a/>\n<?xml version='1.0'?>"})
+    EXPECT_NE("parsed", errorPlace(xml)) << xml;
+}
+
+TEST(Parser, RefusesTruncatedInputAtEveryByte) {
+  const std::string xml = "<?xml version='1.0'?><a x='1'>t&amp;<b/><![CDATA[c]]><!--d--><?e f?></a>";
+  for (std::size_t length = 0; length < xml.size(); ++length)
+    EXPECT_NE("parsed", errorPlace(xml.substr(0, length))) << length;
+}
+
+TEST(Parser, RefusesDocumentTypes) {
+  const std::string bomb = "<!DOCTYPE a [<!ENTITY b 'b'><!ENTITY c '&b;&b;'>]><a>&c;</a>";
+  for (const std::string& doctype :
+       {std::string("<!DOCTYPE a>\n<a/>"), bomb, std::string("<!DOCTYPE a SYSTEM 'file:///etc/passwd'><a/>")}) {
+    try {
+      TRNIDOM_Parser::parseString("<?xml version='1.0'?>\n<!-- <!DOCTYPE b> -->\n" + doctype);
+      ADD_FAILURE() << doctype;
+    } catch (const TRNIDOM_ParseError& error) {
+      EXPECT_EQ(3U, error.getLine());
+      EXPECT_GE(error.getColumn(), 1U);
+      EXPECT_EQ("a document type declaration is not allowed", error.getReason());
+    }
+  }
+  EXPECT_NE("parsed", errorPlace(utf16(u"\uFEFF<!DOCTYPE a><a/>", true)));
+}
+
+TEST(Parser, ReadsFiles) {
+  const std::string path = testing::TempDir() + "trnidom_parser_test.xml";
+  std::ofstream(path) << "<a>\n</a>";
+  EXPECT_EQ("<a>\n</a>", xmlOf(TRNIDOM_Parser::parseFile(path)));
+  std::remove(path.c_str());
+  try {
+    TRNIDOM_Parser::parseFile(path);
+    ADD_FAILURE();
+  } catch (const TRNIDOM_ParseError& error) {
+    EXPECT_EQ(0U, error.getLine() + error.getColumn());
+    EXPECT_NE(std::string::npos, std::string(error.what()).find(path));
+  }
+  EXPECT_THROW(TRNIDOM_Parser::parseFile(testing::TempDir()), TRNIDOM_ParseError) << "a folder";
+}

@@ -1,0 +1,237 @@
+#include <utility>
+
+#include "TestSupport.h"
+
+#include <trnidom/TRNIDOM_DOMImplementation.h>
+#include <trnidom/TRNIDOM_DocumentType.h>
+#include <trnidom/TRNIDOM_NamedNodeMap.h>
+#include <trnidom/TRNIDOM_NodeList.h>
+
+using namespace dxmd_test;
+
+namespace {
+
+TRNIDOM_Document emptyDocument() {
+  return TRNIDOM_DOMImplementation::getInstance().createDocument("", "", TRNIDOM_DocumentType());
+}
+
+TRNIDOM_Node childAt(const TRNIDOM_Node& parent, std::size_t index) {
+  return parent.getChildNodes().item(index);
+}
+
+}  // namespace
+
+TEST(Null, ReadingIsEmptyAllAlongAChain) {
+  const TRNIDOM_Element null;
+  EXPECT_TRUE(null.getFirstChild().getNextSibling().getParentNode().getLastChild().getPreviousSibling().isNull());
+  EXPECT_TRUE(null.getOwnerDocument().getDocumentElement().isNull());
+  EXPECT_EQ(0, null.getNodeType());
+  EXPECT_TRUE(null.getNodeName().empty() && null.getNodeValue().empty() && null.getTagName().empty());
+  EXPECT_TRUE(null.getAttribute("a").empty());
+  EXPECT_FALSE(null.hasAttribute("a") || null.hasChildNodes());
+  EXPECT_EQ(0U, null.getChildNodes().getLength() + null.getAttributes().getLength());
+  EXPECT_TRUE(null.getElementsByTagName("a").item(0).isNull() && null.getAttributes().getNamedItem("a").isNull());
+  EXPECT_TRUE(null.cloneNode(true).isNull());
+  EXPECT_EQ("", xmlOf(null));
+}
+
+TEST(Null, ElementQuestionsToOtherNodesAreEmptyToo) {
+  const TRNIDOM_Element text = parsed("<a x='1'>text</a>").getFirstChild();
+  EXPECT_EQ("#text", text.getNodeName().toUtf8());
+  EXPECT_TRUE(text.getTagName().empty() && text.getAttribute("x").empty());
+  EXPECT_FALSE(text.hasAttribute("x"));
+  EXPECT_EQ(0U, text.getElementsByTagName("*").getLength() + text.getAttributes().getLength());
+  EXPECT_TRUE(TRNIDOM_Document(text).getDocumentElement().isNull());
+}
+
+TEST(Handles, KeepTheWholeDocumentAlive) {
+  TRNIDOM_Node text;
+  {
+    TRNIDOM_Document document = emptyDocument();
+    text = document.appendChild(document.createElement("a")).appendChild(document.createTextNode("kept"));
+  }
+  EXPECT_EQ("kept", text.getParentNode().getFirstChild().getNodeValue().toUtf8());
+  EXPECT_EQ("<a>kept</a>", xmlOf(text.getOwnerDocument()));
+}
+
+TEST(Handles, EqualMeansTheSameNode) {
+  const TRNIDOM_Element a = parsed("<a><b/><b/></a>");
+  EXPECT_EQ(a.getFirstChild(), a.getLastChild().getPreviousSibling());
+  EXPECT_NE(a.getFirstChild(), a.getLastChild());
+  EXPECT_NE(a, parsed("<a><b/><b/></a>"));
+  EXPECT_EQ(TRNIDOM_Node(), a.getParentNode().getParentNode());
+}
+
+TEST(Handles, SelfAssignmentAndMovesKeepTheNode) {
+  TRNIDOM_Node node = parsed("<a/>");
+  TRNIDOM_Node& same = node;
+  node = same;
+  TRNIDOM_Node moved(std::move(node));
+  EXPECT_EQ("<a/>", xmlOf(moved));
+  EXPECT_TRUE(node.isNull());  // NOLINT: a moved-from handle is null
+}
+
+TEST(Handles, ToAttributesSurviveTheirRemoval) {
+  TRNIDOM_Element a = parsed("<a x='1'/>");
+  TRNIDOM_Node attribute = a.getAttributes().getNamedItem("x");
+  TRNIDOM_Node text = attribute.getFirstChild();
+  a.setAttribute("x", "2");
+  EXPECT_EQ("2", text.getNodeValue().toUtf8());
+  a.removeAttribute("x");
+  a.setAttribute("y", "3");
+  EXPECT_EQ("x", attribute.getNodeName().toUtf8());
+  EXPECT_EQ("2", text.getNodeValue().toUtf8());
+}
+
+TEST(Structure, NodesAreMovedFromWhereTheyStood) {
+  TRNIDOM_Element a = parsed("<a><b><c/></b><d/></a>");
+  TRNIDOM_Node b = a.getFirstChild();
+  a.getLastChild().appendChild(b.getFirstChild());
+  expectXml("<a><b/><d><c/></d></a>", a);
+  a.appendChild(b);
+  expectXml("<a><d><c/></d><b/></a>", a);
+  a.insertBefore(b, a.getFirstChild());
+  expectXml("<a><b/><d><c/></d></a>", a);
+}
+
+TEST(Structure, InsertingAndReplacing) {
+  TRNIDOM_Element a = parsed("<a><b/><c/></a>");
+  TRNIDOM_Document document = a.getOwnerDocument();
+  TRNIDOM_Node c = childAt(a, 1);
+  a.insertBefore(document.createElement("x"), c);
+  a.insertBefore(document.createElement("y"), TRNIDOM_Node());
+  expectXml("<a><b/><x/><c/><y/></a>", a);
+  EXPECT_EQ(c, a.replaceChild(document.createTextNode("t"), c));
+  EXPECT_TRUE(c.getParentNode().isNull());
+  expectXml("<a><b/><x/>t<y/></a>", a);
+  EXPECT_EQ("b", a.removeChild(a.getFirstChild()).getNodeName().toUtf8());
+  expectXml("<a><x/>t<y/></a>", a);
+}
+
+TEST(Structure, PuttingANodeWhereItIsChangesNothing) {
+  TRNIDOM_Element a = parsed("<a><b/><c/><d/></a>");
+  TRNIDOM_Node c = childAt(a, 1);
+  a.insertBefore(c, c);
+  a.insertBefore(c, c.getNextSibling());
+  a.replaceChild(c, c);
+  a.appendChild(a.getLastChild());
+  expectXml("<a><b/><c/><d/></a>", a);
+  a.replaceChild(c, c.getNextSibling());
+  expectXml("<a><b/><c/></a>", a);
+  a.replaceChild(c, c.getPreviousSibling());
+  expectXml("<a><c/></a>", a);
+}
+
+TEST(Structure, SiblingsAndParentsAgree) {
+  const TRNIDOM_Element a = parsed("<a><b/>t<!--c--></a>");
+  TRNIDOM_Node b = a.getFirstChild();
+  EXPECT_TRUE(b.getPreviousSibling().isNull());
+  EXPECT_EQ(TRNIDOM_Node::TEXT_NODE, b.getNextSibling().getNodeType());
+  EXPECT_EQ(TRNIDOM_Node::COMMENT_NODE, a.getLastChild().getNodeType());
+  EXPECT_TRUE(a.getLastChild().getNextSibling().isNull());
+  EXPECT_EQ(a, a.getLastChild().getParentNode());
+  EXPECT_EQ(TRNIDOM_Node::DOCUMENT_NODE, a.getParentNode().getNodeType());
+  EXPECT_TRUE(a.getParentNode().getOwnerDocument().isNull());
+}
+
+TEST(Attributes, AreAddedReplacedAndRemoved) {
+  TRNIDOM_Element a = parsed("<a/>");
+  a.setAttribute("n", "1");
+  a.setAttribute("b", "");
+  a.setAttribute("n", "a longer value than before, and another one");
+  expectXml("<a b=\"\" n=\"a longer value than before, and another one\"/>", a);
+  EXPECT_TRUE(a.hasAttribute("b"));
+  EXPECT_FALSE(a.hasAttribute(I18NString::fromUtf16(u"b\0x", 3)));
+  a.removeAttribute("b");
+  a.removeAttribute("absent");
+  EXPECT_FALSE(a.hasAttribute("b"));
+  EXPECT_TRUE(a.getAttribute("b").empty());
+}
+
+TEST(Attributes, AreNodesOfAMap) {
+  TRNIDOM_Element a = parsed("<a y='2' x='1'/>");
+  std::string all;
+  for (TRNIDOM_Node attribute : a.getAttributes()) all += attribute.getNodeName().toUtf8() + ",";
+  EXPECT_EQ("x,y,", all);
+  TRNIDOM_Node x = a.getAttributes().getNamedItem("x");
+  x.setNodeValue("changed");
+  EXPECT_EQ("changed", a.getAttribute("x").toUtf8());
+  EXPECT_TRUE(x.getParentNode().isNull());
+  EXPECT_TRUE(a.getAttributes().item(2).isNull());
+  x.appendChild(a.getOwnerDocument().createTextNode(" twice"));
+  EXPECT_EQ("changed twice", a.getAttribute("x").toUtf8());
+}
+
+TEST(Values, AreSetOnNodesThatHaveOne) {
+  TRNIDOM_Element a = parsed("<a>t<!--c--><![CDATA[d]]><?p i?></a>");
+  for (TRNIDOM_Node child : a.getChildNodes()) child.setNodeValue("new");
+  a.setNodeValue("ignored");
+  a.getParentNode().setNodeValue("ignored");
+  expectXml("<a>new<!--new--><![CDATA[new]]><?p new?></a>", a);
+  EXPECT_TRUE(a.getNodeValue().empty());
+}
+
+TEST(Copies, BelongToTheirDocumentAndStandAlone) {
+  TRNIDOM_Element a = parsed("<a x='1'><b>t</b><!--c--><![CDATA[d]]></a>");
+  expectXml("<a x=\"1\"/>", a.cloneNode(false));
+  TRNIDOM_Node clone = a.cloneNode(true);
+  EXPECT_TRUE(clone.getParentNode().isNull());
+  TRNIDOM_Document other = emptyDocument();
+  TRNIDOM_Node imported = other.appendChild(other.importNode(a, true));
+  EXPECT_EQ(other, imported.getOwnerDocument());
+  a.removeChild(a.getFirstChild());
+  for (const TRNIDOM_Node& copy : {clone, imported}) expectXml("<a x=\"1\"><b>t</b><!--c--><![CDATA[d]]></a>", copy);
+}
+
+TEST(Copies, OfWholeDocumentsAreDocuments) {
+  TRNIDOM_Node document = parsed("<?p i?><a><b/></a>").getParentNode();
+  TRNIDOM_Node clone = document.cloneNode(true);
+  EXPECT_NE(clone.getLastChild().getOwnerDocument(), document);
+  expectXml("<?p i?><a><b/></a>", clone);
+  EXPECT_FALSE(document.cloneNode(false).hasChildNodes());
+  EXPECT_TRUE(emptyDocument().importNode(TRNIDOM_Node(), true).isNull());
+}
+
+TEST(Placeholder, GivesWayToTheFirstElementAppended) {
+  TRNIDOM_Document document = newDocument();
+  TRNIDOM_Element placeholder = document.getDocumentElement();
+  document.appendChild(document.createElement("real"));
+  EXPECT_EQ("<real/>", xmlOf(document));
+  EXPECT_TRUE(placeholder.getParentNode().isNull());
+  EXPECT_EQ("requestDoc", placeholder.getNodeName().toUtf8());
+}
+
+TEST(Placeholder, GivesWayWhereverTheElementGoes) {
+  TRNIDOM_Document document = newDocument();
+  TRNIDOM_Node placeholder = document.getDocumentElement();
+  TRNIDOM_Node comment = document.insertBefore(document.createComment("c"), placeholder);
+  document.insertBefore(document.createElement("real"), placeholder);
+  expectXml("<!--c--><real/>", document);
+  document = newDocument();
+  comment = document.appendChild(document.createComment("c"));
+  document.replaceChild(document.createElement("real"), comment);
+  expectXml("<real/>", document);
+  document = newDocument();
+  document.replaceChild(document.createElement("real"), document.getDocumentElement());
+  expectXml("<real/>", document);
+}
+
+TEST(Placeholder, LeavesAnElementBesideItUnattached) {
+  TRNIDOM_Document document = newDocument();
+  TRNIDOM_Node beside = document.createElement("beside");
+  EXPECT_TRUE(beside.getParentNode().isNull());
+  expectXml("<requestDoc/>", document);
+}
+
+TEST(Document, CanBeMadeWithoutAnElement) {
+  TRNIDOM_Document document = emptyDocument();
+  EXPECT_TRUE(document.getDocumentElement().isNull());
+  EXPECT_EQ("#document", document.getNodeName().toUtf8());
+  TRNIDOM_Node a = document.appendChild(document.createElement("a"));
+  document.appendChild(document.createComment("c"));
+  document.appendChild(a);
+  expectXml("<!--c--><a/>", document);
+  EXPECT_EQ(a, document.getDocumentElement());
+  document.removeChild(a);
+  EXPECT_TRUE(document.getDocumentElement().isNull());
+}

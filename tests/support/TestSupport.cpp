@@ -1,0 +1,61 @@
+#include "TestSupport.h"
+
+#include <trn/TRNAssertError.h>
+#include <trnidom/TRNIDOM_DOMImplementation.h>
+#include <trnidom/TRNIDOM_DocumentType.h>
+#include <trnidom/TRNIDOM_Parser.h>
+#include <trnidom/TRNIDOM_Writer.h>
+
+namespace dxmd_test {
+
+namespace {
+
+std::string oneElementPerLine(std::string xml) {
+  for (std::size_t at = 0; (at = xml.find("><", at)) != std::string::npos;) xml.insert(++at, "\n");
+  return xml;
+}
+
+}  // namespace
+
+TRNIDOM_Document newDocument() {
+  return TRNIDOM_DOMImplementation::getInstance().createDocument("", "requestDoc", TRNIDOM_DocumentType());
+}
+
+TRNIDOM_Element parsed(const std::string& xml) {
+  return TRNIDOM_Parser::parseString(xml).getDocumentElement();
+}
+
+std::string xmlOf(const TRNIDOM_Node& node) {
+  return TRNIDOM_Writer::toString(node);
+}
+
+TRNIDOM_Element madeElement(const ActionHandlerBase& helper) {
+  TRNIDOM_Element element;
+  helper.Make(element);
+  return element;
+}
+
+std::string made(const ActionHandlerBase& helper) {
+  return xmlOf(madeElement(helper));
+}
+
+void expectXml(const std::string& expected, const std::string& actual) {
+  EXPECT_EQ(oneElementPerLine(expected), oneElementPerLine(actual));
+}
+
+void expectXml(const std::string& expected, const TRNIDOM_Node& actual) {
+  expectXml(expected, xmlOf(actual));
+}
+
+void expectAssert(const std::string& text, const std::string& file, const std::function<void()>& action) {
+  try {
+    action();
+    ADD_FAILURE() << "no assertion failed; expected " << text;
+  } catch (const TRNAssertError& error) {
+    EXPECT_EQ(text, error.getMessage().toUtf8());
+    EXPECT_EQ(file, error.getLocation().getFile());
+    EXPECT_EQ(0, error.getCode());
+  }
+}
+
+}  // namespace dxmd_test

@@ -1,0 +1,52 @@
+#ifndef TESTS_SUPPORT_TESTSUPPORT_H
+#define TESTS_SUPPORT_TESTSUPPORT_H
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <trn/I18NString.h>
+#include <trnidom/TRNIDOM_Document.h>
+#include <trnidom/TRNIDOM_Element.h>
+#include <trnidom/TRNIDOM_Node.h>
+
+#include <dxmd/core/ActionHandlerBase.h>
+
+/// What keeps a test case at three to eight lines.
+namespace dxmd_test {
+
+/// A new document with a placeholder element, as helpers get it.
+TRNIDOM_Document newDocument();
+
+/// The document element of the parsed text.
+TRNIDOM_Element parsed(const std::string& xml);
+
+/// The node as compact XML.
+std::string xmlOf(const TRNIDOM_Node& node);
+
+/// The element that the helper's `Make` hands back.
+TRNIDOM_Element madeElement(const ActionHandlerBase& helper);
+
+/// What the helper's `Make` hands back, as compact XML.
+std::string made(const ActionHandlerBase& helper);
+
+/// A helper that took the document element of the parsed text.
+template <typename Helper>
+std::unique_ptr<Helper> taken(const std::string& xml) {
+  auto helper = std::make_unique<Helper>();
+  TRNIDOM_Element element = parsed(xml);
+  helper->Take(element);
+  return helper;
+}
+
+/// Compares two compact XML texts; a difference is printed element by element.
+void expectXml(const std::string& expected, const std::string& actual);
+void expectXml(const std::string& expected, const TRNIDOM_Node& actual);
+
+/// Runs the action, which must fail the assertion of exactly that text in that source file.
+void expectAssert(const std::string& text, const std::string& file, const std::function<void()>& action);
+
+}  // namespace dxmd_test
+
+#endif
