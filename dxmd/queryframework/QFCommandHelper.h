@@ -1,0 +1,61 @@
+#ifndef DXMD_QUERYFRAMEWORK_QFCOMMANDHELPER_H
+#define DXMD_QUERYFRAMEWORK_QFCOMMANDHELPER_H
+
+#include <map>
+
+#include <trn/I18NString.h>
+#include <trnidom/TRNIDOM_Document.h>
+#include <trnidom/TRNIDOM_Element.h>
+
+#include <dxmd/core/ActionHandlerBase.h>
+#include <dxmd/core/Export.h>
+
+/// Base of every command to the query framework service: the "command" envelope and what all commands share.
+///
+/// Written: build and hand back. The envelope declares the service's namespaces and holds the connection, when one was
+/// set, then the command proper, then "commandID" and "requestID". Nothing is read.
+/// `Make` leaves the helper unchanged and may be called again. A helper is used by one thread at a time.
+class DXMD_API QFCommandHelper : public ActionHandlerBase {
+ public:
+  /// The identifiers of a command.
+  enum EProperty { kPropertyCommandID = 1, kPropertyRequestID = 2 };
+
+  /// A command without a model path.
+  QFCommandHelper();
+  explicit QFCommandHelper(const I18NString& modelPath);
+  ~QFCommandHelper() override;
+
+  /// Replaces an identifier; any other property is ignored.
+  void SetProperty(EProperty property, const I18NString& value);
+
+  /// The identifiers of a command that sets none: "DXCommand" and "DXRequest".
+  static const I18NString& GetDefaultDXCommandID();
+  static const I18NString& GetDefaultDXRequestID();
+
+  const I18NString& GetModelPath() const { return m_modelPath; }
+
+  /// Keeps a handle to a "connection" element, which is copied into the envelope at each `Make`.
+  void SetConnection(TRNIDOM_Element& connection);
+
+  /// Places a copy of a connection into a "command" element that is already built: as its first child, or in place of
+  /// the connection it has. In a connection test the connection inside is the one replaced. A command that executes
+  /// on metadata has its new connection rewritten: the type becomes "MQP", the data source the inner connection's name.
+  /// @throws TRNIDOM_DOMException when either element is null or the old connection is not where a command has it.
+  static void AddConnection(TRNIDOM_Element& command, TRNIDOM_Element& connection);
+
+  /// Finds or creates the child "modelPath" of the parent that holds the model path.
+  void MakeModelPath(TRNIDOM_Element& parent) const;
+
+  /// Finds or creates the child "reportName" of the parent that holds the name; "default" stands for "DXRequest".
+  void MakeReportName(TRNIDOM_Element& parent, const I18NString& name) const;
+
+  /// Builds the envelope around the command proper, which must belong to `doc`, and hands it back in `out`.
+  virtual void Incorporate(TRNIDOM_Document& doc, TRNIDOM_Element& out, TRNIDOM_Element& inner) const;
+
+ private:
+  I18NString m_modelPath;
+  std::map<I18NString, I18NString> m_properties;
+  TRNIDOM_Element m_connection;
+};
+
+#endif

@@ -1,0 +1,30 @@
+#ifndef DXMD_QUERYFRAMEWORK_QFJOINQUERYHELPER_H
+#define DXMD_QUERYFRAMEWORK_QFJOINQUERYHELPER_H
+
+#include <trn/I18NString.h>
+#include <trnidom/TRNIDOM_Element.h>
+
+#include <dxmd/core/Export.h>
+#include <dxmd/queryframework/QFQueryHelper.h>
+
+/// A query whose source joins two queries.
+class DXMD_API QFJoinQueryHelper : public QFQueryHelper {
+ public:
+  QFJoinQueryHelper(const I18NString& name, const I18NString& leftQueryRef, const I18NString& leftCardinality,
+                    const I18NString& rightQueryRef, const I18NString& rightCardinality,
+                    const I18NString& joinFilterExpression);
+  ~QFJoinQueryHelper() override;
+
+ protected:
+  /// Writes "joinOperation" with its two operands and "joinFilter"; the query reference is not used.
+  void SetSource(TRNIDOM_Element& query) const override;
+
+ private:
+  I18NString m_leftQueryRef;
+  I18NString m_leftCardinality;
+  I18NString m_rightQueryRef;
+  I18NString m_rightCardinality;
+  I18NString m_joinFilterExpression;
+};
+
+#endif

@@ -1,0 +1,75 @@
+#ifndef DXMD_QUERYFRAMEWORK_QFQUERYHELPER_H
+#define DXMD_QUERYFRAMEWORK_QFQUERYHELPER_H
+
+#include <map>
+#include <vector>
+
+#include <trn/I18NString.h>
+#include <trnidom/TRNIDOM_Document.h>
+#include <trnidom/TRNIDOM_Element.h>
+
+#include <dxmd/core/ActionHandlerBase.h>
+#include <dxmd/core/Export.h>
+#include <dxmd/core/OwnedList.h>
+#include <dxmd/queryframework/QFQueryDataItem.h>
+#include <dxmd/queryframework/QFQueryDetailFilter.h>
+
+/// A plain query: its source, its selection of data items, its detail filters and its hints.
+///
+/// Written: build and hand back, the "query" element. Nothing is read. A query is created by
+/// `QFExecuteCommandHelper::AddQuery`, which owns it; its records live as long as the query.
+class DXMD_API QFQueryHelper : public ActionHandlerBase {
+ public:
+  /// Advice to the query engine. Every query carries "avoidZeroDiv" = "true" unless the caller overwrites it.
+  enum EQueryHint {
+    kQueryHintAvoidZeroDiv = 1,
+    kQueryHintAutoSort = 2,
+    kQueryHintMeasureRefiner = 3,
+    kQueryHintMaxRowsRetrieved = 4
+  };
+
+  /// The hint's element name; "unknown" for any other value.
+  static const I18NString& ToString(EQueryHint hint);
+
+  explicit QFQueryHelper(const I18NString& name);
+  ~QFQueryHelper() override;
+
+  const I18NString& GetName() const { return m_name; }
+
+  /// Whether the service summarises by itself; off at first.
+  void SetAutoSummary(int on);
+
+  /// Appends a data item whose name is made unique among those present, and returns it for the caller to complete.
+  QFQueryDataItem* AddDataItem(const I18NString& name, const I18NString& expression);
+  const std::vector<QFQueryDataItem*>& GetDataItems() const { return m_dataItems.items(); }
+
+  /// Appends a detail filter and returns it.
+  QFQueryDetailFilter* AddDetailFilter(const I18NString& expression, QFQueryDetailFilter::EUse use);
+  const std::vector<QFQueryDetailFilter*>& GetDetailFilters() const { return m_detailFilters.items(); }
+
+  /// Sets a hint, replacing its former value.
+  void AddHint(EQueryHint hint, const I18NString& value);
+
+  /// Names the query that this one reads from; empty means the model.
+  void SetQueryRef(const I18NString& queryName);
+
+  void doMake(TRNIDOM_Document& doc, TRNIDOM_Element& element) const override;
+
+ protected:
+  /// Writes "source" under "query".
+  virtual void SetSource(TRNIDOM_Element& query) const;
+
+ private:
+  I18NString m_name;
+  int m_autoSummary = 0;
+  dxmd::OwnedList<QFQueryDataItem> m_dataItems;
+  dxmd::OwnedList<QFQueryDetailFilter> m_detailFilters;
+  std::map<EQueryHint, I18NString> m_hints;
+  I18NString m_queryRef;
+};
+
+/// Makes a name that no item bears: the name itself, else the name followed by 1, 2 and so on. After as many attempts
+/// as there are items the last candidate is taken as it is.
+DXMD_API void MakeUnique(const std::vector<QFQueryDataItem*>& items, const I18NString& name, I18NString& result);
+
+#endif

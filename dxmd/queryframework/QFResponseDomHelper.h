@@ -1,0 +1,79 @@
+#ifndef DXMD_QUERYFRAMEWORK_QFRESPONSEDOMHELPER_H
+#define DXMD_QUERYFRAMEWORK_QFRESPONSEDOMHELPER_H
+
+#include <map>
+#include <vector>
+
+#include <trn/I18NString.h>
+#include <trnidom/TRNIDOM_Element.h>
+
+#include <dxmd/core/ActionHandlerBase.h>
+#include <dxmd/core/Export.h>
+#include <dxmd/queryframework/QFExecuteCommandHelper.h>
+
+/// Reads the query framework's reply to an execute command: query feedbacks, data sources, columns and rows.
+///
+/// Read: `Take` keeps a handle to the response element, and every getter walks it on demand. Before `Take`, and where
+/// the reply lacks a part, getters give false, nothing, or a null element. Nothing is written.
+/// Getters that fill a vector append to it. A helper is used by one thread at a time.
+class DXMD_API QFResponseDomHelper : public ActionHandlerBase {
+ public:
+  /// A connection that the query used; texts are empty where the reply has none.
+  struct DataSource {
+    I18NString connection;
+    I18NString catalog;
+    I18NString schema;
+    I18NString modelDSName;
+  };
+
+  /// The properties of a column.
+  enum EColumnProp {
+    kColumnPropName = 1,
+    kColumnPropSqlName = 2,
+    kColumnPropType = 3,
+    kColumnPropScale = 4,
+    kColumnPropLength = 5,
+    kColumnPropPrecision = 6,
+    kColumnPropNullsAllowed = 7,
+    kColumnPropCollationSequenceName = 8,
+    kColumnPropCollationSequenceLevel = 9,
+    kColumnPropOriginalCollationSequenceName = 10,
+    kColumnPropOriginalEncodingName = 11
+  };
+
+  QFResponseDomHelper();
+  ~QFResponseDomHelper() override;
+
+  /// Gives the text that the service reported for a kind of query feedback.
+  /// @return whether there is one; `value` is untouched otherwise.
+  bool GetQueryFeedback(QFExecuteCommandHelper::EQueryFeedback kind, I18NString& value) const;
+
+  /// Gives the text of the first query feedback property of that name that has any.
+  /// @return whether there is one; `value` is untouched otherwise.
+  bool ExtractRetrieveProperty(const I18NString& name, I18NString& value) const;
+
+  /// Appends the connections that the query used.
+  void GetResponseDataSources(std::vector<DataSource>& sources) const;
+
+  /// Appends a map of all eleven properties for each column; a property that the reply lacks is empty.
+  /// @throws TRNAssertError when anything but elements stands between the columns, white space included; the columns
+  ///         before it have been appended.
+  void GetColumnList(std::vector<std::map<EColumnProp, I18NString>>& columns) const;
+
+  /// The first row of the result, or null.
+  TRNIDOM_Element GetFirstResultSetRow() const;
+
+  /// The row after that one, or null.
+  TRNIDOM_Element GetNextResultSetRow(TRNIDOM_Element row) const;
+
+  /// Appends the row's values; one without a text is empty. A null row has none.
+  void GetResultSetRowValues(TRNIDOM_Element row, std::vector<I18NString>& values) const;
+
+ protected:
+  void doTake(TRNIDOM_Element& element) override;
+
+ private:
+  TRNIDOM_Element m_responseElement;
+};
+
+#endif
