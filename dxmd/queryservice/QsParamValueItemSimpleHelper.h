@@ -1,0 +1,40 @@
+#ifndef DXMD_QUERYSERVICE_QSPARAMVALUEITEMSIMPLEHELPER_H
+#define DXMD_QUERYSERVICE_QSPARAMVALUEITEMSIMPLEHELPER_H
+
+#include <trn/I18NString.h>
+#include <trnidom/TRNIDOM_Document.h>
+#include <trnidom/TRNIDOM_Element.h>
+
+#include <dxmd/core/Export.h>
+#include <dxmd/queryservice/QsParamValueItemHelper.h>
+
+/// A single value: the value to use, and the text to display for it, which is read but never written.
+class DXMD_API QsParamValueItemSimpleHelper : public QsParamValueItemHelper {
+ public:
+  /// An empty, inclusive value.
+  QsParamValueItemSimpleHelper();
+  QsParamValueItemSimpleHelper(int inclusive, const I18NString& use);
+  ~QsParamValueItemSimpleHelper() override;
+
+  void SetDisplay(const I18NString& display) { m_display = display; }
+  const I18NString& GetDisplay() const { return m_display; }
+  void SetUse(const I18NString& use) { m_use = use; }
+  const I18NString& GetUse() const { return m_use; }
+
+  void doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const override;
+
+  /// Reads "inclusive", "use" and "display"; a text that the item lacks stays as it was.
+  void doTake(TRNIDOM_Element& elmValueItem) override;
+
+  EValueItem GetType() const override { return kValueItemSimple; }
+  const I18NString& GetTarvoType() const override { return ToString(kTarvoItemSimple); }
+
+  /// Writes "inclusive" and, unless empty, "use".
+  void makeProperties(TRNIDOM_Element& target) const override;
+
+ private:
+  I18NString m_use;
+  I18NString m_display;
+};
+
+#endif
