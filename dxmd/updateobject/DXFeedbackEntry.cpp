@@ -1,0 +1,61 @@
+#include <dxmd/updateobject/DXFeedbackEntry.h>
+
+#include <utility>
+#include <vector>
+
+#include <dxmd/core/Dom.h>
+#include <dxmd/core/EnumTexts.h>
+#include <dxmd/resources/Vocabulary.h>
+
+namespace {
+
+constexpr dxmd::EnumTexts<DXFeedbackEntry::EEntryClass, 4> kEntryClasses{{
+    {DXFeedbackEntry::kEntryInfo, STR_info},
+    {DXFeedbackEntry::kEntryWarning, STR_warning},
+    {DXFeedbackEntry::kEntryError, STR_error},
+    {DXFeedbackEntry::kEntryTrace, STR_trace},
+}};
+
+const I18NString kLineFeed("\n");
+const I18NString kErrorPrefix("*** Error:");
+const I18NString kOtherPrefix("--- ");
+
+}  // namespace
+
+I18NString ToString(DXFeedbackEntry::EEntryClass entryClass) {
+  return kEntryClasses.text(entryClass);
+}
+
+DXFeedbackEntry::DXFeedbackEntry(EEntryClass entryClass, const I18NString& text, const I18NString& name)
+    : m_entryClass(entryClass), m_text(text), m_name(name) {}
+
+DXFeedbackEntry::~DXFeedbackEntry() {
+  m_children.clearNested([](DXFeedbackEntry & entry) -> auto& { return entry.m_children; });
+}
+
+DXFeedbackEntry* DXFeedbackEntry::AddEntry(EEntryClass entryClass, const I18NString& text, const I18NString& name) {
+  return m_children.emplace(entryClass, text, name);
+}
+
+void DXFeedbackEntry::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const {
+  elem = doc.createElement(STR_entry);
+  // Entries whose element stands in its place but is still bare. Each appends all its children's at once, so the order
+  // in which they are filled does not matter.
+  std::vector<std::pair<const DXFeedbackEntry*, TRNIDOM_Element>> bare{{this, elem}};
+  while (!bare.empty()) {
+    auto [entry, element] = std::move(bare.back());
+    bare.pop_back();
+    element.setAttribute(STR_class, ToString(entry->m_entryClass));
+    if (!entry->m_name.empty()) element.setAttribute(STR_name, entry->m_name);
+    dxmd::appendText(element, entry->m_text);
+    for (const DXFeedbackEntry* child : entry->m_children)
+      bare.emplace_back(child, dxmd::appendElement(element, STR_entry));
+  }
+}
+
+void DXFeedbackEntry::Render(TRNIDOM_Element& elem, const I18NString& indent, I18NString& out) {
+  out += kLineFeed;
+  out += indent;
+  out += elem.getAttribute(STR_class) == STR_error ? kErrorPrefix : kOtherPrefix;
+  out += dxmd::firstText(elem).getNodeValue();
+}

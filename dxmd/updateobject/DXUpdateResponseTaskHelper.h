@@ -1,0 +1,96 @@
+#ifndef DXMD_UPDATEOBJECT_DXUPDATERESPONSETASKHELPER_H
+#define DXMD_UPDATEOBJECT_DXUPDATERESPONSETASKHELPER_H
+
+#include <map>
+#include <memory>
+#include <vector>
+
+#include <trn/I18NString.h>
+#include <trnidom/TRNIDOM_Element.h>
+
+#include <dxmd/core/ActionHandlerBase.h>
+#include <dxmd/core/Export.h>
+#include <dxmd/updateobject/DXUpdateRequestTaskHelper.h>
+
+class DXActionFeedbackHelper;
+
+/// What became of one task of an update-object request: its status, the properties or objects it touched, an optional
+/// error and optional feedback.
+///
+/// Written: build and hand back, parameters by ascending enumerator, the values of one parameter in the order added,
+/// then the error, then the feedback. Read: `Take` keeps the element and its feedback; the first `GetParameter` parses
+/// parameters, but only while the task has none, and `GetError` the error, but only while the task has none.
+///
+/// A task is used by one thread at a time.
+class DXMD_API DXUpdateResponseTaskHelper : public ActionHandlerBase {
+ public:
+  enum EStatus : int {
+    kStatusUnknown = 0,
+    kStatusSuccess = 1,
+    kStatusFailure = 2,
+  };
+
+  /// What a value names.
+  enum EParameter : int {
+    kParamUnknown = 0,
+    kParamProperty = 1,
+    kParamObject = 2,
+  };
+
+  /// Why the task failed.
+  struct ErrorRecord {
+    I18NString code;
+    I18NString message;
+  };
+
+  DXUpdateResponseTaskHelper(DXUpdateRequestTaskHelper::ETask task, EStatus status);
+  ~DXUpdateResponseTaskHelper() override;
+
+  DXUpdateRequestTaskHelper::ETask GetTask() const { return m_task; }
+
+  EStatus GetStatus() const { return m_status; }
+  void SetStatus(EStatus status) { m_status = status; }
+
+  /// Appends a value.
+  void AddParameter(EParameter parameter, const I18NString& value);
+
+  /// Replaces `values` by the parameter's values and returns true; without the parameter returns false and leaves
+  /// `values` as it is.
+  /// @throws TRNAssertError when a received "param" has a name that is none; what was parsed before it stays.
+  bool GetParameter(EParameter parameter, std::vector<I18NString>& values);
+
+  /// Sets the error, or overwrites the one there is.
+  void SetError(const I18NString& code, const I18NString& message);
+
+  /// The error, owned by the task; null when there is none.
+  ErrorRecord* GetError();
+
+  /// Keeps a copy of the messages added to the feedback. A feedback without any leaves the one kept before.
+  void SetFeedback(const DXActionFeedbackHelper& feedback);
+
+  /// The "feedback" element, for a DXActionFeedbackHelper to take and render; null when there is none.
+  TRNIDOM_Element GetFeedback() const { return m_feedback; }
+
+  void doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const override;
+  void doTake(TRNIDOM_Element& elem) override;
+
+ private:
+  void parseParameters();
+
+  const DXUpdateRequestTaskHelper::ETask m_task;
+  EStatus m_status;
+  TRNIDOM_Element m_taskElement;
+  std::map<EParameter, std::vector<I18NString>> m_parameters;
+  std::unique_ptr<ErrorRecord> m_error;
+  TRNIDOM_Element m_feedback;
+};
+
+/// The text of a status or parameter; "unknown" for any other value.
+DXMD_API const I18NString& ToString(DXUpdateResponseTaskHelper::EStatus status);
+DXMD_API const I18NString& ToString(DXUpdateResponseTaskHelper::EParameter parameter);
+
+/// The status or parameter of exactly that text; unknown for any other text.
+DXMD_API DXUpdateResponseTaskHelper::EStatus ToStatus(const I18NString& text);
+DXMD_API DXUpdateResponseTaskHelper::EParameter ToParameter(const I18NString& text);
+
+#endif

@@ -1,0 +1,276 @@
+#include <dxmd/updateobject/DXUpdateObjectRequestHelper.h>
+
+#include <string>
+#include <vector>
+
+#include "RandomTrees.h"
+#include "TestSupport.h"
+
+using namespace dxmd_test;
+
+namespace {
+
+using Task = DXUpdateRequestTaskHelper;
+
+// A request that received one task of that name, with that inside.
+std::unique_ptr<DXUpdateObjectRequestHelper> takenTask(const std::string& name, const std::string& params) {
+  return taken<DXUpdateObjectRequestHelper>("<updateObjectRequest><tasks><task name=\"" + name + "\"><parameters>" +
+                                            params + "</parameters></task></tasks></updateObjectRequest>");
+}
+
+// What the cursor gives at each of its steps: "a,b|c|" for two IDs, one, none.
+std::string walk(Task& task) {
+  std::string steps;
+  for (std::vector<I18NString> ids{"stale"}; task.GetNextIDParameters(ids); steps += '|')
+    for (const I18NString& id : ids) steps += (steps.empty() || steps.back() == '|' ? "" : ",") + id.toUtf8();
+  return steps;
+}
+
+std::string walk(const std::string& name, const std::string& params) {
+  return walk(*takenTask(name, params)->GetTasks().front());
+}
+
+// The values of a parameter: plain ones as VALUE@LOCALE, subtrees as XML.
+std::string values(Task& task, Task::EParameter parameter) {
+  std::string all;
+  std::vector<Task::ParamValue*> found;
+  if (!task.GetParameter(parameter, found)) return "none";
+  for (const Task::ParamValue* value : found)
+    all +=
+        (value->element.isNull() ? value->value.toUtf8() + "@" + value->locale.toUtf8() : xmlOf(value->element)) + " ";
+  return all;
+}
+
+const char* const kSubtreeText =
+    "TRN_ASSERT(!nodeValue.isNull() && nodeValue.getNodeType() == TRNIDOM_Node::ELEMENT_NODE);";
+
+}  // namespace
+
+TEST(DXUpdateObjectRequestHelper, WritesParametersByEnumeratorAndValuesAsAdded) {
+  DXUpdateObjectRequestHelper request;
+  Task* task = request.AddTask(Task::kTaskAddProperty);
+  task->AddParameter(Task::kParamObjectName, "second", "");
+  task->AddParameter(Task::kParamPropertyType, "", "");
+  task->AddParameter(Task::kParamObjectName, "first", "en");
+  request.AddTask(static_cast<Task::ETask>(7));
+  expectXml(R"(<updateObjectRequest><tasks><task name="addProperty"><parameters>)"
+            R"(<param name="propertyType" value=""/><param name="objectName" value="second"/>)"
+            R"(<param locale="en" name="objectName" value="first"/></parameters></task>)"
+            R"(<task name="unknown"><parameters/></task></tasks></updateObjectRequest>)",
+            made(request));
+}
+
+TEST(DXUpdateObjectRequestHelper, SubtreesOfForeignDocumentsAreCopiedWhenWritten) {
+  DXUpdateObjectRequestHelper request;
+  {
+    TRNIDOM_Element refs = parsed("<refs><refobj>a</refobj></refs>");
+    request.AddTask(Task::kTaskAddObject)->AddParameter(Task::kParamBasedOn, refs);
+    refs.getFirstChild().getFirstChild().setNodeValue("changed before writing");
+  }
+  const std::string expected =
+      R"(<updateObjectRequest><tasks><task name="addObject"><parameters><param name="basedOn">)"
+      R"(<refs><refobj>changed before writing</refobj></refs></param></parameters></task></tasks></updateObjectRequest>)";
+  const TRNIDOM_Element first = madeElement(request);
+  expectXml(expected, made(request));
+  expectXml(expected, first);
+}
+
+TEST(DXUpdateObjectRequestHelper, NamesAreExactAndCoverBothEnumerations) {
+  for (int task = Task::kTaskAddProperty; task <= Task::kTaskRemoveObject; ++task)
+    EXPECT_EQ(task, Task::ToTask(Task::ToString(static_cast<Task::ETask>(task))));
+  for (int parameter = Task::kParamPropertyType; parameter <= Task::kParamDimensionRef; ++parameter)
+    EXPECT_EQ(parameter, Task::ToParameter(Task::ToString(static_cast<Task::EParameter>(parameter))));
+  EXPECT_EQ("reorderProperty", Task::ToString(Task::kTaskReorderProperty).toUtf8());
+  EXPECT_EQ("overrideQOSLevel", Task::ToString(Task::kParamOverrideQOSLevel).toUtf8());
+  EXPECT_EQ("unknown", Task::ToString(Task::kParamUnknown).toUtf8());
+  EXPECT_EQ("unknown", Task::ToString(static_cast<Task::EParameter>(34)).toUtf8());
+  EXPECT_EQ(Task::kParamUnknown, Task::ToParameter("Caption"));
+  EXPECT_EQ(Task::kTaskUnknown, Task::ToTask("unknown"));
+}
+
+TEST(DXUpdateObjectRequestHelper, ReadsTasksOfAnyDepthAndAddsThemToThoseHeld) {
+  DXUpdateObjectRequestHelper request;
+  request.AddTask(Task::kTaskAddObject);
+  TRNIDOM_Element element =
+      parsed(R"(<r><task name="removeObject"><x><task name="addProperty"/></x></task><task name="removeObject"/></r>)");
+  request.Take(element);
+  request.Take(element);
+  TRNIDOM_Element none;
+  request.Take(none);
+  std::vector<int> kinds;
+  for (const Task* task : request.GetTasks()) kinds.push_back(task->GetTask());
+  EXPECT_EQ((std::vector<int>{5, 6, 1, 6, 6, 1, 6}), kinds);
+}
+
+TEST(DXUpdateObjectRequestHelper, TaskOfUnknownNameStopsTheReadingButNotThoseBefore) {
+  TRNIDOM_Element element = parsed(R"(<r><task name="addObject"/><task/><task name="addObject"/></r>)");
+  const std::string text = "TRN_ASSERT(eTask != DXUpdateRequestTaskHelper::kTaskUnknown);";
+  DXUpdateObjectRequestHelper request;
+  expectAssert(text, "DXUpdateObjectRequestHelper", [&] { request.Take(element); });
+  EXPECT_EQ(1u, request.GetTasks().size());
+  expectAssert(text, "DXUpdateObjectRequestHelper", [&] { DXUpdateObjectRequestHelper atOnce(element); });
+}
+
+TEST(DXUpdateRequestTaskHelper, ReadsParametersOnDemandFromADocumentNobodyElseHolds) {
+  const auto request = takenTask("addObject", R"(<param name="caption" value="A" locale="de"/><deep>)"
+                                              R"(<param name="caption"><sub/>tail</param></deep>)"
+                                              R"(<param name="caption" value=""><ignored/></param>)");
+  Task& task = *request->GetTasks().front();
+  EXPECT_EQ("A@de <sub/> @ ", values(task, Task::kParamCaption));
+  Task::ParamValue* first = nullptr;
+  ASSERT_TRUE(task.GetParameter(Task::kParamCaption, first));
+  EXPECT_EQ("A", first->value.toUtf8());
+  Task::ParamValue* untouched = first;
+  EXPECT_FALSE(task.GetParameter(Task::kParamKey, untouched));
+  EXPECT_EQ(first, untouched);
+}
+
+TEST(DXUpdateRequestTaskHelper, FoundValuesReplaceTheCallersAndMissingOnesLeaveThem) {
+  Task task(Task::kTaskAddObject);
+  task.AddParameter(Task::kParamKey, "k", "");
+  std::vector<Task::ParamValue*> found(3, nullptr);
+  EXPECT_FALSE(task.GetParameter(Task::kParamCaption, found));
+  EXPECT_EQ(3u, found.size());
+  EXPECT_TRUE(task.GetParameter(Task::kParamKey, found));
+  EXPECT_EQ(1u, found.size());
+}
+
+TEST(DXUpdateRequestTaskHelper, ParsesOnlyWhileThereAreNoParameters) {
+  TRNIDOM_Element element = parsed(R"(<task name="addObject"><param name="key" value="received"/></task>)");
+  Task filled(Task::kTaskAddObject);
+  filled.AddParameter(Task::kParamCaption, "added", "");
+  filled.Take(element);
+  EXPECT_EQ("none", values(filled, Task::kParamKey));
+
+  Task received(Task::kTaskAddObject);
+  EXPECT_EQ("none", values(received, Task::kParamKey));
+  received.Take(element);
+  EXPECT_EQ("received@ ", values(received, Task::kParamKey));
+  TRNIDOM_Element other = parsed(R"(<task><param name="key" value="later"/></task>)");
+  received.Take(other);
+  EXPECT_EQ("received@ ", values(received, Task::kParamKey));
+  expectXml(R"(<task name="addObject"><parameters><param name="key" value="received"/></parameters></task>)",
+            made(received));
+}
+
+TEST(DXUpdateRequestTaskHelper, MalformedParametersFailWhenTheyAreParsed) {
+  const auto failsWith = [](const std::string& text, const std::string& params) {
+    const auto request = takenTask("addObject", R"(<param name="key" value="before"/>)" + params);
+    Task& task = *request->GetTasks().front();
+    expectAssert(text, "DXUpdateObjectRequestHelper", [&] { values(task, Task::kParamKey); });
+    EXPECT_EQ("before@ ", values(task, Task::kParamKey));
+  };
+  failsWith("TRN_ASSERT(eParam != kParamUnknown);", R"(<param value="v"/>)");
+  failsWith("TRN_ASSERT(eParam != kParamUnknown);", R"(<param name="Key" value="v"/>)");
+  failsWith(kSubtreeText, R"(<param name="caption"/>)");
+  failsWith(kSubtreeText, R"(<param name="caption"> <sub/></param>)");
+}
+
+TEST(DXUpdateRequestTaskHelper, CursorStopsAtParametersThatCarryIDs) {
+  EXPECT_EQ(
+      "1|2|3|4|5|6|",
+      walk("removeObject", R"(<param name="objectID" value="1"/><param name="caption" value="c"/><!-- --> <other/>)"
+                           R"(<param name="objectBeforeID" value="2"/><param name="basedOn" value="3"/>)"
+                           R"(<param name="querySubjectRefs" value="q"/><param name="key" value="4"/>)"
+                           R"(<param name="attributes" value="5"/><param name="dimensionRef" value="6"/>)"));
+  EXPECT_EQ("", walk("removeObject", ""));
+  Task empty(Task::kTaskAddObject);
+  EXPECT_EQ("", walk(empty));
+}
+
+TEST(DXUpdateRequestTaskHelper, CursorReadsTheTextsOfRefobjsBelowTheSubtree) {
+  EXPECT_EQ("a,b||", walk("addObject", R"(<param name="key"><refobj><refobj>a</refobj><x><refobj>b</refobj></x>)"
+                                       R"(<refobj/><refobj><y/>late</refobj></refobj></param>)"
+                                       R"(<param name="key"><refobj>not below</refobj></param>)"));
+}
+
+TEST(DXUpdateRequestTaskHelper, CursorTakesPropertyValuesByTheTypePassedBefore) {
+  const auto params = [](const std::string& type) {
+    return R"(<param name="propertyValue" value="early"/><param name="propertyType" value=")" + type +
+           R"("/><param name="propertyValue" value="late"/>)";
+  };
+  for (const char* type : {"filter", "securityFilter", "previewFilter", "dataSource", "querySubjectRefs"}) {
+    EXPECT_EQ("late|", walk("addProperty", params(type))) << type;
+    EXPECT_EQ("late|", walk("updateProperty", params(type))) << type;
+    EXPECT_EQ("", walk("removeProperty", params(type))) << type;
+  }
+  EXPECT_EQ("", walk("addProperty", params("Filter")));
+  EXPECT_EQ("late|early|", walk("addProperty", params("filter") + params("caption")));
+}
+
+TEST(DXUpdateRequestTaskHelper, CursorWalksTheSiblingsOfTheFirstParameterOnly) {
+  const auto request = taken<DXUpdateObjectRequestHelper>(
+      R"(<r><task name="addObject"><a><param name="key" value="1"/></a><param name="key" value="2"/></task></r>)");
+  Task& task = *request->GetTasks().front();
+  EXPECT_EQ("1|", walk(task));
+  EXPECT_EQ("", walk(task));
+  task.UpdateCurrentIDParameters({"still there"});
+  EXPECT_EQ("still there@ 2@ ", values(task, Task::kParamKey));
+}
+
+TEST(DXUpdateRequestTaskHelper, CursorRefusesWhatItCannotRead) {
+  const auto failsWith = [](const std::string& text, const std::string& params) {
+    expectAssert(text, "DXUpdateObjectRequestHelper", [&] { walk("addObject", params); });
+  };
+  failsWith("TRN_ASSERT(eParam != kParamUnknown);", R"(<param name="none"/>)");
+  failsWith(kSubtreeText, R"(<param name="key">text</param>)");
+}
+
+TEST(DXUpdateRequestTaskHelper, MappedIDsAreWrittenInPlace) {
+  TRNIDOM_Element element =
+      parsed(R"(<r><task name="addObject"><param name="objectID" value="a"/><param name="caption" value="a"/>)"
+             R"(<param name="key"><refs><refobj>b</refobj><refobj><x/></refobj><refobj>c<x/></refobj></refs></param>)"
+             R"(</task></r>)");
+  DXUpdateObjectRequestHelper request(element);
+  Task& task = *request.GetTasks().front();
+  std::vector<I18NString> ids;
+  ASSERT_TRUE(task.GetNextIDParameters(ids));
+  task.UpdateCurrentIDParameters({"A"});
+  ASSERT_TRUE(task.GetNextIDParameters(ids));
+  EXPECT_EQ((std::vector<I18NString>{"b", "c"}), ids);
+  expectAssert("TRN_ASSERT(listRefs.getLength() == vIDs.size());", "DXUpdateObjectRequestHelper",
+               [&] { task.UpdateCurrentIDParameters(ids); });
+  task.UpdateCurrentIDParameters({"B", "unused", "C"});
+  EXPECT_FALSE(task.GetNextIDParameters(ids));
+  EXPECT_TRUE(ids.empty());
+  expectXml(R"(<r><task name="addObject"><param name="objectID" value="A"/><param name="caption" value="a"/>)"
+            R"(<param name="key"><refs><refobj>B</refobj><refobj><x/></refobj><refobj>C<x/></refobj></refs></param>)"
+            R"(</task></r>)",
+            element);
+}
+
+TEST(DXUpdateRequestTaskHelper, UpdateRefusesAnotherNumberOfIDs) {
+  const auto request = takenTask("addObject", R"(<param name="key" value="a"/>)");
+  Task& task = *request->GetTasks().front();
+  expectAssert("TRN_ASSERT(!idCrap_elmCurrIDParam.isNull());", "DXUpdateObjectRequestHelper",
+               [&] { task.UpdateCurrentIDParameters({"b"}); });
+  std::vector<I18NString> ids;
+  ASSERT_TRUE(task.GetNextIDParameters(ids));
+  for (const auto& wrong : {std::vector<I18NString>{}, std::vector<I18NString>{"b", "c"}})
+    expectAssert("TRN_ASSERT(vIDs.size() == 1);", "DXUpdateObjectRequestHelper",
+                 [&] { task.UpdateCurrentIDParameters(wrong); });
+  EXPECT_EQ("a@ ", values(task, Task::kParamKey));
+}
+
+TEST(DXUpdateRequestTaskHelper, NoTreeCrashesTheReader) {
+  const TreeWords words{
+      {"task", "parameters", "param", "param", "param", "refobj", "refs"},
+      {"name", "value", "locale"},
+      {"addProperty", "updateProperty", "propertyType", "propertyValue", "filter", "key", "basedOn", "caption", "id"}};
+  feedRandomTrees(words, [](TRNIDOM_Element& element) {
+    Task task(Task::kTaskAddProperty);
+    task.Take(element);
+    std::vector<I18NString> ids;
+    while (task.GetNextIDParameters(ids)) task.UpdateCurrentIDParameters(ids);
+    values(task, Task::kParamKey);
+    madeElement(task);
+  });
+  feedRandomTrees(words, [](TRNIDOM_Element& element) {
+    DXUpdateObjectRequestHelper request(element);
+    for (Task* task : request.GetTasks()) {
+      values(*task, Task::kParamCaption);
+      walk(*task);
+    }
+    madeElement(request);
+  });
+}
