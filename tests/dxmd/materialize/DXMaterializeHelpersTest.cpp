@@ -1,0 +1,194 @@
+#include <dxmd/materialize/DXMaterializeRequestHelper.h>
+#include <dxmd/materialize/DXMaterializeResponseHelper.h>
+
+#include <string>
+#include <vector>
+
+#include "RandomTrees.h"
+#include "TestSupport.h"
+
+using namespace dxmd_test;
+
+namespace {
+
+using Request = DXMaterializeRequestHelper;
+
+// The fields of a target data source, "-" for those that are null.
+std::string fields(Request& request) {
+  const Request::TargetDataSource source = request.GetTargetDataSourceInfo();
+  std::string all;
+  for (const I18NString* text : {source.type, source.database, source.connectionString, source.reserved,
+                                 source.userName, source.password, source.ssoTicket})
+    all += (text == nullptr ? "-" : text->toUtf8()) + "|";
+  return all;
+}
+
+std::string parameter(Request& request, Request::EParameters parameter) {
+  I18NString value("untouched");
+  const bool found = request.GetParameter(parameter, value);
+  return (found ? "" : "no, ") + value.toUtf8();
+}
+
+std::string answer(const std::string& xml, Request::ETasks task) {
+  I18NString response("untouched");
+  const bool found = taken<DXMaterializeResponseHelper>(xml)->GetResponse(task, response);
+  return (found ? "" : "no, ") + response.toUtf8();
+}
+
+}  // namespace
+
+TEST(DXMaterializeRequestHelper, WritesTasksDataSourceParametersAndResultSet) {
+  Request request;
+  request.AddTask(Request::kTaskLoadDataFromFile);
+  request.AddTask(Request::kTaskMaterializeResultSet);
+  request.AddTask(Request::kTaskLoadDataFromFile);
+  const I18NString type("T"), database("D"), connection("C"), ignored("I"), user("U"), password(""), ticket("S");
+  request.SetTargetDataSource({&type, &database, &connection, &ignored, &user, &password, &ticket});
+  request.AddParameter(Request::kParamObjectID, "o");
+  request.AddParameter(Request::kParamTableName, "replaced");
+  request.AddParameter(Request::kParamTableName, "t");
+  request.SetResultSet(parsed("<set><row/></set>"));
+  const std::string expected =
+      R"(<materializeRequest><tasks><task>loadDataFromFile</task><task>genLoadDataFromFile</task></tasks>)"
+      R"(<targetDataSource type="T"><connectionString>C</connectionString><database>D</database>)"
+      R"(<username>U</username><password/><SSOTicket>S</SSOTicket></targetDataSource>)"
+      R"(<parameters><param name="tableName" value="t"/><param name="objectID" value="o"/></parameters>)"
+      R"(<resultSet><set><row/></set></resultSet></materializeRequest>)";
+  expectXml(expected, made(request));
+  expectXml(expected, made(request));
+}
+
+TEST(DXMaterializeRequestHelper, EmptyRequestStillHasTasksAndDataSource) {
+  expectXml("<materializeRequest><tasks/><targetDataSource/></materializeRequest>", made(Request()));
+}
+
+TEST(DXMaterializeRequestHelper, MaterialiseTasksAreNamedAsTheGeneratedLoad) {
+  EXPECT_EQ("genLoadDataFromFile", Request::GetTaskName(Request::kTaskGenLoadDataFromFile).toUtf8());
+  EXPECT_EQ("loadDataFromFile", Request::GetTaskName(Request::kTaskLoadDataFromFile).toUtf8());
+  EXPECT_EQ("genLoadDataFromFile", Request::GetTaskName(Request::kTaskMaterializeQuerySubject).toUtf8());
+  EXPECT_EQ("genLoadDataFromFile", Request::GetTaskName(Request::kTaskMaterializeResultSet).toUtf8());
+  EXPECT_EQ("unknown", Request::GetTaskName(static_cast<Request::ETasks>(5)).toUtf8());
+  EXPECT_EQ("dataEncoding", Request::GetParameterName(Request::kParamDataEncoding).toUtf8());
+  EXPECT_EQ("unknown", Request::GetParameterName(static_cast<Request::EParameters>(7)).toUtf8());
+}
+
+TEST(DXMaterializeRequestHelper, ReadsTasksByOneTextEachWithRepeatsAndUnknownOnes) {
+  const auto request = taken<Request>(
+      "<r><task>materializeQuerySubject</task><task/><x><task>materializeResultSet</task></x><task>other</task>"
+      "<task>loadDataFromFile</task><task>loadDataFromFile</task><task><b/>loadDataFromFile</task>"
+      "<task><!--genLoadDataFromFile--></task></r>");
+  const std::vector<Request::ETasks> expected{
+      Request::kTaskMaterializeQuerySubject, Request::kTaskMaterializeResultSet, Request::kTaskUnknown,
+      Request::kTaskLoadDataFromFile,        Request::kTaskLoadDataFromFile,     Request::kTaskUnknown,
+      Request::kTaskGenLoadDataFromFile};
+  EXPECT_EQ(expected, request->GetTasks());
+  EXPECT_EQ(expected, request->GetTasks());
+
+  const auto filled = taken<Request>("<r><task>loadDataFromFile</task></r>");
+  filled->AddTask(Request::kTaskMaterializeResultSet);
+  EXPECT_EQ((std::vector<Request::ETasks>{Request::kTaskMaterializeResultSet}), filled->GetTasks());
+}
+
+TEST(DXMaterializeRequestHelper, GivenFieldsReplaceAndNullOnesKeep) {
+  Request request;
+  EXPECT_EQ("-|-|-|-|-|-|-|", fields(request));
+  {
+    const I18NString password("secret"), user("old");
+    Request::TargetDataSource source;
+    source.password = &password;
+    source.userName = &user;
+    request.SetTargetDataSource(source);
+    const I18NString newUser("new");
+    source = Request::TargetDataSource();
+    source.userName = &newUser;
+    request.SetTargetDataSource(source);
+  }
+  EXPECT_EQ("-|-|-|-|new|secret|-|", fields(request));
+  request.SetTargetDataSource(request.GetTargetDataSourceInfo());
+  EXPECT_EQ("-|-|-|-|new|secret|-|", fields(request));
+}
+
+TEST(DXMaterializeRequestHelper, ReadsTheFirstDataSourceWhileNoneIsSet) {
+  const std::string received =
+      R"(<r><x><targetDataSource><database>D</database><userName>no</userName><username><!-- -->no</username>)"
+      R"(<password>P</password><connectionString><![CDATA[no]]></connectionString><SSOTicket>1</SSOTicket>)"
+      R"(<SSOTicket>2</SSOTicket><deep><username>no</username></deep></targetDataSource></x>)"
+      R"(<targetDataSource type="second"><username>second</username></targetDataSource></r>)";
+  const auto request = taken<Request>(received);
+  EXPECT_EQ("|D|-|-|-|P|2|", fields(*request));
+  expectXml(R"(<materializeRequest><tasks/><targetDataSource type=""><database>D</database><password>P</password>)"
+            R"(<SSOTicket>2</SSOTicket></targetDataSource></materializeRequest>)",
+            made(*request));
+
+  const auto filled = taken<Request>(received);
+  const I18NString user("U");
+  Request::TargetDataSource source;
+  source.userName = &user;
+  filled->SetTargetDataSource(source);
+  EXPECT_EQ("-|-|-|-|U|-|-|", fields(*filled));
+  EXPECT_EQ("-|-|-|-|-|-|-|", fields(*taken<Request>("<r/>")));
+}
+
+TEST(DXMaterializeRequestHelper, ParametersAreReadFromTheReceivedElementOnly) {
+  const std::string received = R"(<r><param name="tableName" value="first"/><x><param name="objectID"/></x>)"
+                               R"(<param name="tableName" value="second"/><param name="TableName" value="none"/></r>)";
+  const auto request = taken<Request>(received);
+  EXPECT_EQ("first", parameter(*request, Request::kParamTableName));
+  EXPECT_EQ("", parameter(*request, Request::kParamObjectID));
+  EXPECT_EQ("no, untouched", parameter(*request, Request::kParamDataFilePath));
+  expectXml("<materializeRequest><tasks/><targetDataSource/></materializeRequest>", made(*request));
+  request->AddParameter(Request::kParamTableName, "added");
+  EXPECT_EQ("no, untouched", parameter(*request, Request::kParamTableName));
+  TRNIDOM_Element again = parsed(received);
+  request->Take(again);
+  EXPECT_EQ("no, untouched", parameter(*request, Request::kParamTableName));
+  Request empty;
+  EXPECT_EQ("no, untouched", parameter(empty, Request::kParamTableName));
+}
+
+TEST(DXMaterializeRequestHelper, ReadsTheElementThatTheFirstResultSetBeginsWith) {
+  EXPECT_EQ("<set/>", xmlOf(taken<Request>("<r><x><resultSet><set/><more/></resultSet></x></r>")->GetResultSet()));
+  EXPECT_TRUE(
+      taken<Request>("<r><resultSet> <set/></resultSet><resultSet><set/></resultSet></r>")->GetResultSet().isNull());
+  const auto request = taken<Request>("<r><resultSet><received/></resultSet></r>");
+  request->SetResultSet(parsed("<given/>"));
+  EXPECT_EQ("<given/>", xmlOf(request->GetResultSet()));
+}
+
+TEST(DXMaterializeResponseHelper, AnswersAreFoundUnderTheNamesOfTasks) {
+  const std::string xml =
+      "<r><x><genLoadDataFromFile><y><response>generated</response></y></genLoadDataFromFile></x>"
+      "<genLoadDataFromFile><response>second</response></genLoadDataFromFile>"
+      "<materializeResultSet><response>never</response></materializeResultSet></r>";
+  EXPECT_EQ("generated", answer(xml, Request::kTaskGenLoadDataFromFile));
+  EXPECT_EQ("generated", answer(xml, Request::kTaskMaterializeResultSet));
+  EXPECT_EQ("no, untouched", answer(xml, Request::kTaskLoadDataFromFile));
+  EXPECT_EQ("no, untouched", answer("<r><loadDataFromFile><response/><response>late</response></loadDataFromFile></r>",
+                                    Request::kTaskLoadDataFromFile));
+  EXPECT_EQ("no, untouched",
+            answer("<r><loadDataFromFile/><response>outside</response></r>", Request::kTaskLoadDataFromFile));
+}
+
+TEST(DXMaterializeResponseHelper, WritesAnEmptyRootWhateverItTook) {
+  expectXml("<materializeResponse/>", made(*taken<DXMaterializeResponseHelper>("<r><x/></r>")));
+}
+
+TEST(DXMaterializeHelpers, NoTreeCrashesTheReaders) {
+  const TreeWords words{{"task", "targetDataSource", "targetDataSource", "username", "password", "type", "param",
+                         "resultSet", "genLoadDataFromFile", "response"},
+                        {"name", "value", "type"},
+                        {"loadDataFromFile", "tableName", "text"}};
+  feedRandomTrees(words, [](TRNIDOM_Element& element) {
+    Request request;
+    request.Take(element);
+    request.GetTasks();
+    fields(request);
+    parameter(request, Request::kParamTableName);
+    request.GetResultSet();
+    madeElement(request);
+    DXMaterializeResponseHelper response;
+    response.Take(element);
+    I18NString text;
+    response.GetResponse(Request::kTaskGenLoadDataFromFile, text);
+  });
+}
