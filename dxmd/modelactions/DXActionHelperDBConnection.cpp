@@ -1,0 +1,110 @@
+#include <dxmd/modelactions/DXActionHelperDBConnection.h>
+
+#include <trn/TRNAssert.h>
+#include <trnidom/TRNIDOM_Helper.h>
+#include <trnidom/TRNIDOM_NodeList.h>
+
+#include <dxmd/core/Dom.h>
+#include <dxmd/modelactions/DXActionHelperDBConnections.h>
+
+const I18NString DXActionHelperDBConnection::k_dbConnection("dbConnection");
+const I18NString DXActionHelperDBConnection::k_connectionString("connectionString");
+const I18NString DXActionHelperDBConnection::k_database("database");
+const I18NString DXActionHelperDBConnection::k_catalog("catalog");
+const I18NString DXActionHelperDBConnection::k_schema("schema");
+const I18NString DXActionHelperDBConnection::k_dbType("dbType");
+const I18NString DXActionHelperDBConnection::k_userName("userName");
+const I18NString DXActionHelperDBConnection::k_password("password");
+
+const I18NString DXActionHelperDBConnections::kElemNameRoot("dbConnections");
+const I18NString DXActionHelperDBConnections::k_dbConnection("dbConnection");
+
+DXActionHelperDBConnection::DXActionHelperDBConnection() = default;
+DXActionHelperDBConnection::~DXActionHelperDBConnection() = default;
+
+void DXActionHelperDBConnection::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& domRequest) const {
+  TRN_ASSERT(!m_connectionString.empty() && !m_database.empty());
+
+  domRequest = doc.createElement(k_dbConnection);
+  TRN_ASSERT(!domRequest.isNull());
+  doc.appendChild(domRequest);
+
+  const TRNIDOM_Element databaseElem = TRNIDOM_Helper::findOrCreateElementWithText(domRequest, k_database, m_database);
+  TRN_ASSERT(!databaseElem.isNull());
+  if (!m_catalog.empty()) {
+    const TRNIDOM_Element catalogElem = TRNIDOM_Helper::findOrCreateElementWithText(domRequest, k_catalog, m_catalog);
+    TRN_ASSERT(!catalogElem.isNull());
+  }
+  if (!m_schema.empty()) {
+    const TRNIDOM_Element schemaElem = TRNIDOM_Helper::findOrCreateElementWithText(domRequest, k_schema, m_schema);
+    TRN_ASSERT(!schemaElem.isNull());
+  }
+  if (!m_dbType.empty()) {
+    const TRNIDOM_Element dbTypeElem = TRNIDOM_Helper::findOrCreateElementWithText(domRequest, k_dbType, m_dbType);
+    TRN_ASSERT(!dbTypeElem.isNull());
+  }
+  const TRNIDOM_Element connectionStringElem =
+      TRNIDOM_Helper::findOrCreateElementWithText(domRequest, k_connectionString, m_connectionString);
+  TRN_ASSERT(!connectionStringElem.isNull());
+  if (!m_userName.empty()) {
+    const TRNIDOM_Element userNameElem =
+        TRNIDOM_Helper::findOrCreateElementWithText(domRequest, k_userName, m_userName);
+    TRN_ASSERT(!userNameElem.isNull());
+  }
+  if (!m_password.empty()) {
+    const TRNIDOM_Element passwordElem =
+        TRNIDOM_Helper::findOrCreateElementWithText(domRequest, k_password, m_password);
+    TRN_ASSERT(!passwordElem.isNull());
+  }
+
+  m_requestRoot = domRequest;
+}
+
+void DXActionHelperDBConnection::doTake(TRNIDOM_Element& elem) {
+  m_requestRoot = elem;
+  TRN_ASSERT(!m_requestRoot.isNull());
+
+  const TRNIDOM_Element connectionStringElem = TRNIDOM_Helper::findChildElement(m_requestRoot, k_connectionString);
+  TRN_ASSERT(!connectionStringElem.isNull());
+  TRNIDOM_Helper::getElementText(connectionStringElem, m_connectionString);
+
+  const TRNIDOM_Element databaseElem = TRNIDOM_Helper::findChildElement(m_requestRoot, k_database);
+  TRN_ASSERT(!databaseElem.isNull());
+  TRNIDOM_Helper::getElementText(databaseElem, m_database);
+
+  dxmd::readChildText(m_requestRoot, k_catalog, m_catalog);
+  dxmd::readChildText(m_requestRoot, k_schema, m_schema);
+
+  const TRNIDOM_Element dbTypeElem = TRNIDOM_Helper::findChildElement(m_requestRoot, k_dbType);
+  TRN_ASSERT(!dbTypeElem.isNull());
+  TRNIDOM_Helper::getElementText(dbTypeElem, m_dbType);
+
+  dxmd::readChildText(m_requestRoot, k_userName, m_userName);
+  dxmd::readChildText(m_requestRoot, k_password, m_password);
+}
+
+DXActionHelperDBConnections::DXActionHelperDBConnections() = default;
+DXActionHelperDBConnections::~DXActionHelperDBConnections() = default;
+
+void DXActionHelperDBConnections::addDom(TRNIDOM_Element& dbConnection) {
+  m_dbConnections.push_back(dbConnection);
+}
+
+void DXActionHelperDBConnections::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& domRequest) const {
+  TRN_ASSERT(!m_dbConnections.empty());
+
+  domRequest = doc.createElement(kElemNameRoot);
+  TRN_ASSERT(!domRequest.isNull());
+  doc.appendChild(domRequest);
+
+  for (const TRNIDOM_Element& dbConnection : m_dbConnections) dxmd::appendImported(domRequest, dbConnection);
+
+  m_requestRoot = domRequest;
+}
+
+void DXActionHelperDBConnections::doTake(TRNIDOM_Element& elem) {
+  m_requestRoot = elem;
+  TRN_ASSERT(!m_requestRoot.isNull());
+
+  for (TRNIDOM_Element dbConnection : m_requestRoot.getElementsByTagName(k_dbConnection)) addDom(dbConnection);
+}
