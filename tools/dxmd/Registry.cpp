@@ -1,0 +1,30 @@
+#include "Registry.h"
+
+#include <tools/dxmd/ToolError.h>
+#include <tools/dxmd/kinds/Families.h>
+
+namespace dxmd_tool {
+
+const std::vector<Kind>& allKinds() {
+  static const std::vector<Kind> kinds = [] {
+    std::vector<Kind> all;
+    for (const auto family : {queryFrameworkKinds, queryServiceKinds, queryEngineKinds, coreKinds, modelActionsKinds,
+                              updateObjectKinds, materializeKinds, modelAnalysisKinds}) {
+      std::vector<Kind> some = family();
+      all.insert(all.end(), std::make_move_iterator(some.begin()), std::make_move_iterator(some.end()));
+    }
+    return all;
+  }();
+  return kinds;
+}
+
+const Kind& findKind(const std::string& name) {
+  std::string names;
+  for (const Kind& kind : allKinds()) {
+    if (kind.name == name) return kind;
+    names += (names.empty() ? "" : ", ") + kind.name;
+  }
+  throw ToolError(kStatusUsage, inQuotes(name) + " is no kind of message; the kinds are " + names);
+}
+
+}  // namespace dxmd_tool

@@ -1,0 +1,186 @@
+#include "Tool.h"
+
+#include <algorithm>
+#include <map>
+#include <new>
+#include <ostream>
+
+#include <CLI/CLI.hpp>
+
+#include <tools/dxmd/Files.h>
+#include <tools/dxmd/Registry.h>
+#include <tools/dxmd/ToolError.h>
+#include <tools/dxmd/Verbs.h>
+
+namespace dxmd_tool {
+
+namespace {
+
+const char* const kDescription = "Encodes and decodes the messages between the modelling client and its services.";
+
+const char* const kFooter =
+    R"(FILE absent or "-" is standard input.
+
+Exit status:
+  0  done
+  1  the input does not fit the kind: the message names the place in the JSON, as in
+     $.queries[2].dataItems[0].sort, or the check that failed
+  2  wrong usage
+  3  a file cannot be read or written
+  4  the input is not well-formed XML or JSON: the message names file, line and column
+
+Passwords, passports and tickets print as *** in decoded JSON and are in no error text. Encoded
+XML holds them: it is the message itself.
+
+Examples:
+  dxmd kinds execute
+  dxmd example execute | dxmd encode execute --indent 2
+  dxmd decode response reply.xml --format table)";
+
+using VerbFunction = std::string (*)(const Kind&, const Settings&, std::istream&);
+
+/// The command line: its grammar, and what it asked for once parsed.
+class CommandLine {
+ public:
+  CommandLine() : m_app(kDescription, "dxmd") {
+    m_app.set_version_flag("--version", "dxmd " DXMD_VERSION);
+    m_app.footer(kFooter);
+    m_app.require_subcommand(1);
+    m_encode = addVerb("encode", "Read JSON, write the message as XML", KindOption::kEncode);
+    m_decode = addVerb("decode", "Read XML, write what the message holds as JSON", KindOption::kDecode);
+    m_kinds = m_app.add_subcommand("kinds", "List the kinds of messages, or describe one");
+    m_kinds->add_option("KIND", m_kindName, "The kind to describe");
+    addOutput(*m_kinds);
+    m_example = m_app.add_subcommand("example", "Print complete JSON to encode, or XML for a kind that is only read");
+    m_example->add_option("KIND", m_kindName, "The kind of message")->required();
+    addOutput(*m_example);
+  }
+  CommandLine(const CommandLine&) = delete;
+  CommandLine& operator=(const CommandLine&) = delete;
+
+  /// Does what the arguments ask for.
+  /// @throws ToolError, CLI::ParseError
+  void run(std::vector<std::string> args, std::istream& in, std::ostream& out) {
+    std::reverse(args.begin(), args.end());
+    m_app.parse(args);
+    const std::string text = result(in);
+    if (m_settings.output.empty())
+      writeStream(out, text);
+    else
+      writeFile(m_settings.output, text);
+  }
+
+  /// The help of the verb and kind that were parsed.
+  std::string help() const { return m_app.help(); }
+
+ private:
+  /// A verb has one subcommand for each kind that it takes, so that a kind's own options are that subcommand's.
+  CLI::App* addVerb(const char* name, const char* help, KindOption::Verb verb) {
+    CLI::App* app = m_app.add_subcommand(name, help);
+    addInputOutput(*app, verb);
+    for (const Kind& kind : allKinds()) {
+      if (verb == KindOption::kEncode ? !kind.encode : !kind.decode) continue;
+      CLI::App* command = app->add_subcommand(kind.name, kind.summary);
+      command->footer(notesOf(kind));
+      command->add_option("FILE", m_settings.file,
+                          verb == KindOption::kEncode ? "The JSON to read" : "The XML to read");
+      addInputOutput(*command, verb);
+      for (const KindOption& option : kind.options)
+        if (option.verb == verb) addKindOption(*command, option);
+    }
+    // An unknown kind ends up here, where it can be told what the kinds are.
+    app->allow_extras();
+    return app;
+  }
+
+  void addInputOutput(CLI::App& app, KindOption::Verb verb) {
+    if (verb == KindOption::kEncode) {
+      app.add_option("--indent", m_settings.indent,
+                     "Spaces per level, for people to read: several readers take no white space between elements")
+          ->option_text("N")
+          ->check(CLI::Range(0U, 16U));
+    } else {
+      app.add_option("--indent", m_settings.indent, "Spaces per level of the JSON, by default 2; 0 writes one line")
+          ->option_text("N")
+          ->check(CLI::Range(0U, 16U));
+      app.add_flag("--show-secrets", m_settings.showSecrets, "Print passwords, passports and tickets");
+    }
+    addOutput(app);
+  }
+
+  void addOutput(CLI::App& app) {
+    app.add_option("--output", m_settings.output, "Write this file, whole or not at all, instead of standard output")
+        ->option_text("FILE");
+  }
+
+  void addKindOption(CLI::App& app, const KindOption& option) {
+    CLI::Option* added = app.add_option_function<std::string>(
+        option.name, [this, name = option.name](const std::string& value) { m_kindValues[name] = value; }, option.help);
+    added->option_text(option.argument);
+    if (!option.choices.empty()) added->check(CLI::IsMember(option.choices));
+  }
+
+  std::string result(std::istream& in) {
+    m_settings.kindOptions = KindOptions(m_kindValues);
+    if (m_encode->parsed()) return encode(kindOf(*m_encode), m_settings, in);
+    if (m_decode->parsed()) return decode(kindOf(*m_decode), m_settings, in);
+    if (m_example->parsed()) return findKind(m_kindName).example + "\n";
+    return m_kindName.empty() ? listKinds() : describe(findKind(m_kindName));
+  }
+
+  /// The kind that the verb was given.
+  static const Kind& kindOf(const CLI::App& verb) {
+    const std::vector<std::string> extras = verb.remaining();
+    const auto commands = verb.get_subcommands();
+    if (commands.empty() && extras.empty()) throw ToolError(kStatusUsage, verb.get_name() + " needs a kind of message");
+    if (!extras.empty() && (extras[0][0] == '-' || !commands.empty()))
+      throw ToolError(kStatusUsage, "unexpected argument " + inQuotes(extras[0]));
+    const Kind& kind = findKind(commands.empty() ? extras[0] : commands[0]->get_name());
+    if (commands.empty())
+      throw ToolError(kStatusUsage, "the kind " + kind.name + " is only " +
+                                        (kind.encode ? "written: dxmd encode " : "read: dxmd decode ") + kind.name);
+    return kind;
+  }
+
+  CLI::App m_app;
+  CLI::App* m_encode;
+  CLI::App* m_decode;
+  CLI::App* m_kinds;
+  CLI::App* m_example;
+  Settings m_settings;
+  std::string m_kindName;
+  std::map<std::string, std::string> m_kindValues;
+};
+
+}  // namespace
+
+int runTool(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err) {
+  Status status = kStatusOk;
+  std::string message;
+  try {
+    CommandLine commandLine;
+    try {
+      commandLine.run(args, in, out);
+    } catch (const CLI::CallForHelp&) {
+      writeStream(out, commandLine.help());
+    } catch (const CLI::CallForVersion& version) {
+      writeStream(out, version.what() + std::string("\n"));
+    }
+  } catch (const CLI::ParseError& error) {
+    status = kStatusUsage;
+    message = error.what() + std::string(" (see dxmd --help)");
+  } catch (const ToolError& error) {
+    status = error.status();
+    message = error.what();
+  } catch (const std::bad_alloc&) {
+    status = kStatusFile;
+    message = "out of memory";
+  } catch (const std::exception& error) {
+    status = kStatusUnfit;
+    message = error.what();
+  }
+  if (status != kStatusOk) err << "dxmd: " << message << std::endl;
+  return status;
+}
+
+}  // namespace dxmd_tool

@@ -1,0 +1,31 @@
+#ifndef TOOLS_DXMD_TOOLERROR_H
+#define TOOLS_DXMD_TOOLERROR_H
+
+#include <stdexcept>
+#include <string>
+
+namespace dxmd_tool {
+
+/// Exit statuses.
+enum Status {
+  kStatusOk = 0,
+  kStatusUnfit = 1,   ///< the input does not fit the kind
+  kStatusUsage = 2,   ///< wrong usage
+  kStatusFile = 3,    ///< a file cannot be read or written
+  kStatusSyntax = 4,  ///< not well-formed XML or JSON
+};
+
+/// What ends a run: its exit status and the one line that says why, which begins with the name of the file concerned.
+class ToolError : public std::runtime_error {
+ public:
+  ToolError(Status status, const std::string& message) : std::runtime_error(message), m_status(status) {}
+
+  Status status() const noexcept { return m_status; }
+
+ private:
+  Status m_status;
+};
+
+}  // namespace dxmd_tool
+
+#endif

@@ -1,0 +1,149 @@
+#include "Verbs.h"
+
+#include <algorithm>
+#include <istream>
+
+#include <trn/TRNAssertError.h>
+#include <trnidom/TRNIDOM_DOMException.h>
+#include <trnidom/TRNIDOM_Document.h>
+#include <trnidom/TRNIDOM_Helper.h>
+#include <trnidom/TRNIDOM_ParseError.h>
+#include <trnidom/TRNIDOM_Parser.h>
+#include <trnidom/TRNIDOM_Writer.h>
+
+#include <tools/dxmd/Files.h>
+#include <tools/dxmd/Registry.h>
+#include <tools/dxmd/Secrets.h>
+#include <tools/dxmd/ToolError.h>
+#include <tools/dxmd/json/JsonParser.h>
+
+namespace dxmd_tool {
+
+namespace {
+
+constexpr unsigned kJsonIndent = 2;
+
+std::string joined(const std::vector<std::string>& names) {
+  std::string all;
+  for (const std::string& name : names) all += (all.empty() ? "" : ", ") + name;
+  return all;
+}
+
+std::string inputName(const Settings& settings) {
+  return settings.file == "-" ? "standard input" : settings.file;
+}
+
+std::string readInput(const Settings& settings, std::istream& in) {
+  return settings.file == "-" ? readStream(in, inputName(settings)) : readFile(settings.file);
+}
+
+/// Whether an option was given that stands for the input, with no file named beside it.
+bool inputIsReplaced(const Kind& kind, const Settings& settings) {
+  return settings.file == "-" && std::any_of(kind.options.begin(), kind.options.end(), [&](const KindOption& option) {
+           return option.replacesInput && settings.kindOptions.value(option.name);
+         });
+}
+
+/// Runs what the library may refuse and says of which input it did.
+template <typename Action>
+auto refusalsNamed(const std::string& name, const Action& action) {
+  try {
+    return action();
+  } catch (const TRNAssertError& error) {
+    throw ToolError(kStatusUnfit,
+                    name + ": " + error.getLocation().getFile() + " refuses it: " + error.getMessage().toUtf8());
+  } catch (const TRNIDOM_DOMException& error) {
+    throw ToolError(kStatusUnfit, name + ": " + error.what());
+  }
+}
+
+TRNIDOM_Document parseXml(const std::string& text, const std::string& name) {
+  const std::size_t first = text.find_first_not_of(" \t\r\n");
+  if (first == std::string::npos) throw ToolError(kStatusSyntax, name + ":1:1: empty where XML is expected");
+  if (text[first] == '{' || text[first] == '[')
+    throw ToolError(kStatusSyntax, name + ":1:1: not XML: this looks like JSON");
+  try {
+    return TRNIDOM_Parser::parseString(text);
+  } catch (const TRNIDOM_ParseError& error) {
+    throw ToolError(kStatusSyntax, name + ":" + std::to_string(error.getLine()) + ":" +
+                                       std::to_string(error.getColumn()) + ": " + error.getReason());
+  }
+}
+
+/// Refuses a document of another kind.
+void checkRoot(const Kind& kind, const TRNIDOM_Element& root, const std::string& name) {
+  const std::string found = root.getNodeName().toUtf8();
+  if (std::find(kind.roots.begin(), kind.roots.end(), found) != kind.roots.end()) return;
+  for (const std::string& part : kind.orHolding)
+    if (found == part || !TRNIDOM_Helper::findFirstElement(root, part.c_str()).isNull()) return;
+  throw ToolError(kStatusUnfit, name + ": no " + kind.name + ": its root element is " + inQuotes(found) + ", not " +
+                                    joined(kind.roots) +
+                                    (kind.orHolding.empty() ? "" : ", and it holds none of " + joined(kind.orHolding)));
+}
+
+std::string xmlLine(const TRNIDOM_Node& node, unsigned indent) {
+  TRNIDOM_Writer::Options options;
+  options.indent = indent;
+  std::string xml = TRNIDOM_Writer::toString(node, options);
+  if (xml.empty() || xml.back() != '\n') xml += '\n';
+  return xml;
+}
+
+}  // namespace
+
+std::string encode(const Kind& kind, const Settings& settings, std::istream& in) {
+  const std::string name = inputName(settings);
+  const Json json = inputIsReplaced(kind, settings) ? Json::object() : parseJson(readInput(settings, in), name);
+  return refusalsNamed(name, [&] {
+    TRNIDOM_Element element;
+    readObject(json, name, [&](JsonObject& object) { element = kind.encode(object, settings.kindOptions); });
+    return xmlLine(element, settings.indent.value_or(0));
+  });
+}
+
+std::string decode(const Kind& kind, const Settings& settings, std::istream& in) {
+  const std::string name = inputName(settings);
+  TRNIDOM_Element root = parseXml(readInput(settings, in), name).getDocumentElement();
+  checkRoot(kind, root, name);
+  Decoded decoded = refusalsNamed(name, [&] { return kind.decode(root, settings.kindOptions); });
+  if (const auto* element = std::get_if<TRNIDOM_Element>(&decoded))
+    return xmlLine(*element, settings.indent.value_or(0));
+  if (const auto* text = std::get_if<std::string>(&decoded)) return *text;
+  Json& json = std::get<Json>(decoded);
+  checkJsonDepth(json);
+  if (!settings.showSecrets) maskSecrets(json, kind);
+  return toText(json, settings.indent.value_or(kJsonIndent)) + "\n";
+}
+
+std::string listKinds() {
+  std::size_t width = 0;
+  for (const Kind& kind : allKinds()) width = std::max(width, kind.name.size());
+  std::string lines;
+  for (const Kind& kind : allKinds()) {
+    const char* verbs = !kind.decode ? "encode        " : !kind.encode ? "decode        " : "encode, decode";
+    lines += kind.name + std::string(width - kind.name.size(), ' ') + "  " + verbs + "  " + kind.summary + "\n";
+  }
+  return lines;
+}
+
+std::string notesOf(const Kind& kind) {
+  std::string notes = kind.notes;
+  if (!notes.empty()) notes += notes.back() == '\n' ? "\n" : "\n\n";
+  notes += "Root element: " + joined(kind.roots);
+  if (!kind.orHolding.empty()) notes += ", or any that holds " + joined(kind.orHolding);
+  notes += "\n";
+  if (!kind.secrets.empty()) notes += "Hidden when decoded, unless --show-secrets: " + joined(kind.secrets) + "\n";
+  notes += "To start from: dxmd example " + kind.name + "\n";
+  return notes;
+}
+
+std::string describe(const Kind& kind) {
+  std::string text = kind.name + ": " + kind.summary + "\n\n";
+  if (kind.encode) text += "  dxmd encode " + kind.name + " [FILE]\n";
+  if (kind.decode) text += "  dxmd decode " + kind.name + " [FILE]\n";
+  for (const KindOption& option : kind.options)
+    text += std::string("    ") + option.name + " " + option.argument + "  " + option.help + "\n";
+  return text + "\n" + notesOf(kind);
+}
+
+}  // namespace dxmd_tool

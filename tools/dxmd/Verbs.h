@@ -1,0 +1,40 @@
+#ifndef TOOLS_DXMD_VERBS_H
+#define TOOLS_DXMD_VERBS_H
+
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+#include <tools/dxmd/Kind.h>
+
+namespace dxmd_tool {
+
+/// What the command line says beside the verb and the kind.
+struct Settings {
+  std::string file = "-";          ///< the input; "-" is standard input
+  std::string output;              ///< empty is standard output
+  std::optional<unsigned> indent;  ///< by default 0 for XML, 2 for JSON
+  bool showSecrets = false;
+  KindOptions kindOptions;
+};
+
+// What each verb gives to print. @throws ToolError
+
+/// JSON read, XML written.
+std::string encode(const Kind& kind, const Settings& settings, std::istream& in);
+
+/// XML read, JSON written, or what the kind gives in its stead.
+std::string decode(const Kind& kind, const Settings& settings, std::istream& in);
+
+/// The kinds, one line each.
+std::string listKinds();
+
+/// All that there is to say of one kind.
+std::string describe(const Kind& kind);
+
+/// The notes, element names and hidden fields of a kind, which its help ends with.
+std::string notesOf(const Kind& kind);
+
+}  // namespace dxmd_tool
+
+#endif

@@ -1,0 +1,29 @@
+#ifndef TOOLS_DXMD_JSON_JSON_H
+#define TOOLS_DXMD_JSON_JSON_H
+
+#include <cstddef>
+#include <string>
+
+#include <trn/I18NString.h>
+#include <nlohmann/json.hpp>
+
+namespace dxmd_tool {
+
+/// JSON whose members keep their order.
+using Json = nlohmann::ordered_json;
+
+/// JSON nested deeper is refused, on reading and on writing: the functions that walk it recurse.
+constexpr std::size_t kMaxJsonDepth = 500;
+
+/// The text between quotes for an error text: in ASCII but for letters, one line, cut when long.
+std::string inQuotes(const std::string& text);
+
+}  // namespace dxmd_tool
+
+/// A text as a JSON value, so that `json["name"] = helper.GetName()` is all it takes; lists of texts follow.
+template <typename BasicJson>
+void to_json(BasicJson& json, const I18NString& text) {
+  json = text.toUtf8();
+}
+
+#endif

@@ -1,0 +1,201 @@
+#include "JsonReader.h"
+
+#include <algorithm>
+#include <memory>
+
+#include <trnidom/TRNIDOM_Document.h>
+#include <trnidom/TRNIDOM_ParseError.h>
+#include <trnidom/TRNIDOM_Parser.h>
+
+#include <tools/dxmd/Secrets.h>
+#include <tools/dxmd/ToolError.h>
+
+namespace dxmd_tool {
+
+namespace {
+
+I18NString toI18N(std::string_view text) {
+  return I18NString(text.data(), nullptr, static_cast<long>(text.size()));
+}
+
+bool isPlainKey(std::string_view key) {
+  const auto isPlain = [](char c) {
+    return ('a' <= c && c <= 'z') || ('A' <= c && c <= 'Z') || ('0' <= c && c <= '9') || c == '_';
+  };
+  return !key.empty() && std::all_of(key.begin(), key.end(), isPlain);
+}
+
+const char* kindOf(const Json& json) {
+  if (json.is_number_float()) return "a fractional number";
+  switch (json.type()) {
+    case Json::value_t::object:
+      return "an object";
+    case Json::value_t::array:
+      return "a list";
+    case Json::value_t::string:
+      return "a text";
+    case Json::value_t::boolean:
+      return "a boolean";
+    case Json::value_t::null:
+      return "null";
+    default:
+      return "a number";
+  }
+}
+
+}  // namespace
+
+std::string JsonPlace::path() const {
+  std::vector<const JsonPlace*> way;
+  for (const JsonPlace* place = this; place->parent != nullptr; place = place->parent) way.push_back(place);
+  std::string path = "$";
+  for (auto place = way.rbegin(); place != way.rend(); ++place) appendStep(path, (*place)->name, (*place)->index);
+  return path;
+}
+
+void JsonPlace::appendStep(std::string& path, std::string_view name, std::size_t index) {
+  if (name.data() == nullptr) {
+    path += '[' + std::to_string(index) + ']';
+  } else if (isPlainKey(name)) {
+    path += '.';
+    path += name;
+  } else {
+    path += '[' + inQuotes(std::string(name)) + ']';
+  }
+}
+
+std::string_view JsonPlace::source() const {
+  const JsonPlace* place = this;
+  while (place->parent != nullptr) place = place->parent;
+  return place->name;
+}
+
+bool JsonPlace::isSecret() const {
+  for (const JsonPlace* place = this; place->parent != nullptr; place = place->parent)
+    if (isSecretName(place->name)) return true;
+  return false;
+}
+
+I18NString JsonValue::text(const I18NString& otherwise) const {
+  if (m_json == nullptr) return otherwise;
+  if (!m_json->is_string()) failType("a text");
+  return toI18N(m_json->get_ref<const std::string&>());
+}
+
+bool JsonValue::boolean(bool otherwise) const {
+  if (m_json == nullptr) return otherwise;
+  if (!m_json->is_boolean()) failType("true or false");
+  return m_json->get<bool>();
+}
+
+std::int64_t JsonValue::signedWithin(std::int64_t least, std::int64_t most) const {
+  if (!m_json->is_number_integer()) failType("a whole number");
+  // Numbers beyond the signed range are held as unsigned ones.
+  const bool tooLarge = m_json->is_number_unsigned() &&
+                        m_json->get<std::uint64_t>() > std::uint64_t{std::numeric_limits<std::int64_t>::max()};
+  const std::int64_t value = tooLarge ? 0 : m_json->get<std::int64_t>();
+  if (tooLarge || value < least || most < value)
+    fail("the number is not from " + std::to_string(least) + " to " + std::to_string(most));
+  return value;
+}
+
+std::uint64_t JsonValue::unsignedWithin(std::uint64_t least, std::uint64_t most) const {
+  if (!m_json->is_number_integer()) failType("a whole number");
+  const bool negative = !m_json->is_number_unsigned() && m_json->get<std::int64_t>() < 0;
+  const std::uint64_t value = negative ? 0 : m_json->get<std::uint64_t>();
+  if (negative || value < least || most < value)
+    fail("the number is not from " + std::to_string(least) + " to " + std::to_string(most));
+  return value;
+}
+
+std::optional<I18NLocale> JsonValue::locale() const {
+  if (m_json == nullptr) return std::nullopt;
+  return I18NLocale(text());
+}
+
+TRNIDOM_Element JsonValue::xml() const {
+  if (m_json == nullptr) return TRNIDOM_Element();
+  if (!m_json->is_string()) failType("a text of XML");
+  try {
+    return TRNIDOM_Parser::parseString(m_json->get_ref<const std::string&>()).getDocumentElement();
+  } catch (const TRNIDOM_ParseError& error) {
+    fail("the text is not well-formed XML (line " + std::to_string(error.getLine()) + ", column " +
+         std::to_string(error.getColumn()) + ")");
+  }
+}
+
+std::vector<I18NString> JsonValue::texts() const {
+  std::vector<I18NString> all;
+  each([&](const JsonValue& item) { all.push_back(item.text()); });
+  return all;
+}
+
+void JsonValue::object(const std::function<void(JsonObject&)>& read) const {
+  if (m_json == nullptr) return;
+  if (!m_json->is_object()) failType("an object");
+  JsonObject object(*m_json, m_place);
+  read(object);
+  object.finish();
+}
+
+void JsonValue::objects(const std::function<void(JsonObject&)>& read) const {
+  each([&](const JsonValue& item) { item.object(read); });
+}
+
+void JsonValue::each(const std::function<void(const JsonValue&)>& read) const {
+  if (m_json == nullptr) return;
+  if (!m_json->is_array()) failType("a list");
+  std::size_t index = 0;
+  for (const Json& item : *m_json) read(JsonValue(&item, JsonPlace{&m_place, std::string_view(), index++}));
+}
+
+void JsonValue::members(const std::function<void(const I18NString&, const JsonValue&)>& read) const {
+  if (m_json == nullptr) return;
+  if (!m_json->is_object()) failType("an object");
+  for (const auto& member : m_json->get_ref<const Json::object_t&>())
+    read(toI18N(member.first), JsonValue(&member.second, JsonPlace{&m_place, member.first}));
+}
+
+void JsonValue::fail(const std::string& reason) const {
+  throw ToolError(kStatusUnfit, std::string(m_place.source()) + ": " + m_place.path() + ": " + reason);
+}
+
+void JsonValue::failType(const char* expected) const {
+  fail(std::string("expected ") + expected + ", found " + kindOf(*m_json));
+}
+
+void JsonValue::failAmong(const std::string& texts) const {
+  fail((m_place.isSecret() ? "the text" : inQuotes(m_json->get_ref<const std::string&>())) + " is none of " + texts);
+}
+
+JsonValue JsonObject::required(std::string_view key) {
+  const JsonValue value = optional(key);
+  if (!value) fail("the key " + inQuotes(std::string(key)) + " is missing");
+  return value;
+}
+
+JsonValue JsonObject::optional(std::string_view key) {
+  m_known.emplace_back(key);
+  for (const auto& member : m_json.get_ref<const Json::object_t&>())
+    if (member.first == key) return JsonValue(&member.second, JsonPlace{&m_place, member.first});
+  return JsonValue(nullptr, m_place);
+}
+
+void JsonObject::finish() const {
+  for (const auto& member : m_json.get_ref<const Json::object_t&>()) {
+    if (std::find(m_known.begin(), m_known.end(), member.first) != m_known.end()) continue;
+    std::string known;
+    for (const std::string& key : m_known) known += (known.empty() ? "" : ", ") + inQuotes(key);
+    fail("unknown key " + inQuotes(member.first) + "; known are " + known);
+  }
+}
+
+void JsonObject::fail(const std::string& reason) const {
+  JsonValue(&m_json, m_place).fail(reason);
+}
+
+void readObject(const Json& json, const std::string& source, const std::function<void(JsonObject&)>& read) {
+  JsonValue(&json, JsonPlace{nullptr, source}).object(read);
+}
+
+}  // namespace dxmd_tool

@@ -1,0 +1,23 @@
+#ifndef TOOLS_DXMD_KINDS_FAMILIES_H
+#define TOOLS_DXMD_KINDS_FAMILIES_H
+
+#include <vector>
+
+#include <tools/dxmd/Kind.h>
+
+namespace dxmd_tool {
+
+// The kinds of each family of helpers, in the order they are listed. Each function stands in the file of its name.
+
+std::vector<Kind> coreKinds();
+std::vector<Kind> materializeKinds();
+std::vector<Kind> modelActionsKinds();
+std::vector<Kind> modelAnalysisKinds();
+std::vector<Kind> queryEngineKinds();
+std::vector<Kind> queryFrameworkKinds();
+std::vector<Kind> queryServiceKinds();
+std::vector<Kind> updateObjectKinds();
+
+}  // namespace dxmd_tool
+
+#endif
