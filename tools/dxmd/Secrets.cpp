@@ -53,7 +53,7 @@ std::string maskedXml(const std::string& text) {
     for (const TRNIDOM_Node& element : root.getElementsByTagName("*")) maskElement(element);
     return TRNIDOM_Writer::toString(root);
   } catch (const TRNIDOM_ParseError&) {
-    return text;
+    return kMask;
   }
 }
 

@@ -132,7 +132,9 @@ class CommandLine {
   static const Kind& kindOf(const CLI::App& verb) {
     const std::vector<std::string> extras = verb.remaining();
     const auto commands = verb.get_subcommands();
-    if (commands.empty() && extras.empty()) throw ToolError(kStatusUsage, verb.get_name() + " needs a kind of message");
+    if (commands.empty() && extras.empty())
+      throw ToolError(kStatusUsage,
+                      verb.get_name() + " needs a kind of message (see dxmd " + verb.get_name() + " --help)");
     if (!extras.empty() && (extras[0][0] == '-' || !commands.empty()))
       throw ToolError(kStatusUsage, "unexpected argument " + inQuotes(extras[0]));
     const Kind& kind = findKind(commands.empty() ? extras[0] : commands[0]->get_name());

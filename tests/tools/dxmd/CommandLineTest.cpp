@@ -1,0 +1,125 @@
+#include <algorithm>
+
+#include <gtest/gtest.h>
+
+#include <tools/dxmd/Registry.h>
+
+#include "RunTool.h"
+
+using namespace dxmd_test;
+using namespace dxmd_tool;
+
+namespace {
+
+const std::vector<std::string> kDecode{"decode", "response"};
+
+std::string nestedElements(std::size_t levels) {
+  std::string xml;
+  for (std::size_t i = 0; i < levels; ++i) xml += "<a>";
+  for (std::size_t i = 0; i < levels; ++i) xml += "</a>";
+  return xml;
+}
+
+bool has(const std::string& text, const std::string& part) {
+  return text.find(part) != std::string::npos;
+}
+
+}  // namespace
+
+TEST(CommandLine, WrongUsageIsStatus2) {
+  EXPECT_EQ(2, run({}).status);
+  EXPECT_EQ(2, run({"frobnicate"}).status);
+  EXPECT_EQ(2, run({"encode", "execute", "a", "b"}).status);
+  EXPECT_EQ(2, run({"encode", "execute", "--indent", "x"}, "{}").status);
+  EXPECT_EQ(2, run({"encode", "execute", "--indent", "-1"}, "{}").status);
+  EXPECT_EQ(2, run({"decode", "response", "--format", "csv"}).status);
+  EXPECT_EQ(2, run({"decode", "response", "--output"}).status);
+  expectFailure(kStatusUsage, "encode needs a kind of message (see dxmd encode --help)", run({"encode"}));
+  expectFailure(kStatusUsage, "the kind response is only read: dxmd decode response", run({"encode", "response"}));
+  expectFailure(kStatusUsage, "the kind execute is only written: dxmd encode execute", run({"decode", "execute"}));
+  EXPECT_TRUE(has(run({"decode", "nonsense"}).err, "\"nonsense\" is no kind of message; the kinds are execute, "));
+  EXPECT_TRUE(has(run({"kinds", "nonsense"}).err, "\"nonsense\" is no kind of message"));
+}
+
+TEST(CommandLine, OptionOfOneKindIsRefusedForOthers) {
+  EXPECT_EQ(2, run({"encode", "execute", "--format", "table"}, "{}").status);
+  EXPECT_EQ(2, run({"encode", "--format", "table", "execute"}, "{}").status);
+  EXPECT_EQ(0, run({"decode", "response", "--format", "table"}, "<response/>").status);
+}
+
+TEST(CommandLine, OptionsStandBeforeOrBehindTheKind) {
+  const std::string before = run({"encode", "--indent", "2", "closeConnections", "-"}, "{}").out;
+  const std::string behind = run({"encode", "closeConnections", "--indent", "2"}, "{}").out;
+  EXPECT_TRUE(has(before, "\n  <closeConnections/>\n"));
+  EXPECT_EQ(before, behind);
+}
+
+TEST(CommandLine, HelpListsStatusesKindsAndNotes) {
+  const ToolRun help = run({"--help"});
+  EXPECT_EQ(0, help.status);
+  EXPECT_TRUE(has(help.out, "Exit status:"));
+  EXPECT_TRUE(has(run({"encode", "--help"}).out, "closeConnections"));
+  EXPECT_TRUE(has(run({"decode", "response", "--help"}).out, "--format"));
+  EXPECT_TRUE(has(run({"kinds", "response"}).out, "--format"));
+  EXPECT_EQ("dxmd 1.0.0\n", run({"--version"}).out);
+}
+
+TEST(CommandLine, KindsAreListedOnALineEach) {
+  const std::string lines = run({"kinds"}).out;
+  EXPECT_EQ(allKinds().size(), static_cast<std::size_t>(std::count(lines.begin(), lines.end(), '\n')));
+}
+
+TEST(CommandLine, MalformedXmlIsStatus4WithItsPlace) {
+  EXPECT_EQ(4, run(kDecode, "<response>\n <row></response>").status);
+  EXPECT_TRUE(has(run(kDecode, "<response>\n <row></response>").err, "dxmd: standard input:2:"));
+  EXPECT_EQ(4, run(kDecode, "<!DOCTYPE response [<!ENTITY e 'x'>]><response>&e;</response>").status);
+  EXPECT_EQ(4, run(kDecode, "<response/><response/>").status);
+  expectFailure(kStatusSyntax, "standard input:1:1: empty where XML is expected", run(kDecode, "\n"));
+  expectFailure(kStatusSyntax, "standard input:1:1: not XML: this looks like JSON", run(kDecode, "{}"));
+  expectFailure(kStatusSyntax, "standard input:1:1: not JSON: this looks like XML",
+                run({"encode", "execute"}, "<command/>"));
+}
+
+TEST(CommandLine, RootOfAnotherKindIsStatus1) {
+  expectFailure(kStatusUnfit,
+                "standard input: no response: its root element is \"command\", not response, and it holds none of "
+                "queryFeedbackResult, columnList, resultData",
+                run(kDecode, "<command><execute/></command>"));
+  EXPECT_EQ(0, run(kDecode, "<envelope><body><resultData/></body></envelope>").status);
+}
+
+TEST(CommandLine, WhatTheLibraryRefusesIsStatus1WithItsText) {
+  expectFailure(kStatusUnfit,
+                "standard input: QFResponseDomHelper refuses it: "
+                "TRN_ASSERT(columnsList.item( idx ).getNodeType() == TRNIDOM_Node::ELEMENT_NODE);",
+                run(kDecode, "<response><columnList> <c/></columnList></response>"));
+  const ToolRun badName = run({"encode", "connection"}, R"({"properties": {"not a name": "secret"}})");
+  EXPECT_EQ(1, badName.status);
+  EXPECT_FALSE(has(badName.err, "secret"));
+  EXPECT_EQ(1, run({"encode", "connection"}, R"({"username": "\u0001"})").status);
+}
+
+TEST(CommandLine, DeepAndLongDocumentsAreRead) {
+  EXPECT_EQ(0, run(kDecode, "<response>" + nestedElements(1000000) + "</response>").status);
+  std::string rows;
+  for (int i = 0; i < 20000; ++i) rows += "<row><value v=\"" + std::to_string(i) + "\"/></row>";
+  EXPECT_TRUE(has(run(kDecode, "<response><resultData>" + rows + "</resultData></response>").out, "[\"19999\"]"));
+}
+
+TEST(CommandLine, OutputIsWrittenWholeOrNotAtAll) {
+  const TempFolder folder;
+  const std::string out = folder.path("out.xml");
+  const ToolRun good = run({"encode", "closeConnections", "--output", out}, "{}");
+  EXPECT_EQ("", good.out);
+  EXPECT_EQ(run({"encode", "closeConnections"}, "{}").out, bytesOf(out));
+  EXPECT_EQ(1, run({"encode", "closeConnections", "--output", out}, R"({"x": 1})").status);
+  EXPECT_EQ(run({"encode", "closeConnections"}, "{}").out, bytesOf(out));
+  EXPECT_EQ(3, run({"encode", "closeConnections", "--output", folder.path("no/out")}, "{}").status);
+  EXPECT_EQ(std::vector<std::string>{"out.xml"}, folder.names());
+}
+
+TEST(CommandLine, FileThatCannotBeReadIsStatus3) {
+  const TempFolder folder;
+  const std::string none = folder.path("none.xml");
+  expectFailure(kStatusFile, none + ": cannot be read: No such file or directory", run({"decode", "response", none}));
+}

@@ -1,0 +1,227 @@
+// What holds for each kind of message, whatever it is: these tests run over the registry.
+
+#include <algorithm>
+#include <functional>
+#include <set>
+#include <sstream>
+
+#include <gtest/gtest.h>
+#include <trnidom/TRNIDOM_Document.h>
+#include <trnidom/TRNIDOM_NamedNodeMap.h>
+
+#include <tools/dxmd/Registry.h>
+#include <tools/dxmd/Secrets.h>
+#include <tools/dxmd/ToolError.h>
+#include <tools/dxmd/Verbs.h>
+#include <tools/dxmd/json/JsonParser.h>
+
+#include "RunTool.h"
+#include "TestSupport.h"
+
+using namespace dxmd_test;
+using namespace dxmd_tool;
+
+namespace {
+
+class EveryKind : public testing::TestWithParam<Kind> {
+ protected:
+  const Kind& kind() const { return GetParam(); }
+
+  std::string encoded(const Json& json) const {
+    std::istringstream in(json.dump());
+    return encode(kind(), Settings(), in);
+  }
+
+  Json decoded(const std::string& xml, bool showSecrets = true) const {
+    Settings settings;
+    settings.showSecrets = showSecrets;
+    std::istringstream in(xml);
+    return parseJson(decode(kind(), settings, in), "decoded");
+  }
+
+  Json exampleJson() const { return parseJson(kind().example, "example"); }
+  std::string exampleXml() const { return kind().encode ? encoded(exampleJson()) : kind().example; }
+
+  /// Encodes what must be refused, at that place in the JSON.
+  void expectRefusedAt(const std::string& path, const Json& json) const {
+    try {
+      encoded(json);
+      ADD_FAILURE() << path << " was accepted in " << json.dump();
+    } catch (const ToolError& error) {
+      EXPECT_EQ(kStatusUnfit, error.status()) << error.what();
+      EXPECT_NE(std::string::npos, std::string(error.what()).find(path)) << path << " is not in: " << error.what();
+    }
+  }
+
+  /// The action may succeed, or refuse with that status; anything else is a failure.
+  static void expectNoWorse(Status status, const std::string& input, const std::function<void()>& action) {
+    try {
+      action();
+    } catch (const ToolError& error) {
+      EXPECT_EQ(status, error.status()) << error.what() << " for " << input;
+    } catch (const std::exception& error) {
+      ADD_FAILURE() << error.what() << " for " << input;
+    }
+  }
+};
+
+/// Visits every value of the JSON, parents first, with its path; the visitor may change what it is given.
+void visit(Json& json, const std::string& path, const std::function<void(Json&, const std::string&)>& visitor) {
+  visitor(json, path);
+  if (json.is_object()) {
+    for (auto& member : json.get_ref<Json::object_t&>()) {
+      std::string below = path;
+      JsonPlace::appendStep(below, member.first, 0);
+      visit(member.second, below, visitor);
+    }
+  } else if (json.is_array()) {
+    for (std::size_t i = 0; i < json.size(); ++i) visit(json[i], path + "[" + std::to_string(i) + "]", visitor);
+  }
+}
+
+/// The texts that stand under the names of secrets.
+std::set<std::string> secretsIn(Json json, const Kind& kind) {
+  std::set<std::string> all;
+  visit(json, "$", [&](Json& value, const std::string&) {
+    if (!value.is_object()) return;
+    for (const auto& member : value.get_ref<const Json::object_t&>()) {
+      const bool isSecret = isSecretName(member.first) ||
+                            std::find(kind.secrets.begin(), kind.secrets.end(), member.first) != kind.secrets.end();
+      if (isSecret && member.second.is_string()) all.insert(member.second.get<std::string>());
+    }
+  });
+  all.erase("");
+  return all;
+}
+
+}  // namespace
+
+TEST_P(EveryKind, SaysWhatItIs) {
+  EXPECT_FALSE(kind().summary.empty());
+  EXPECT_FALSE(kind().roots.empty() && kind().orHolding.empty());
+  EXPECT_TRUE(kind().encode || kind().decode);
+  EXPECT_TRUE(!kind().roundTrips || (kind().encode && kind().decode));
+  std::istringstream notes(kind().notes);
+  for (std::string line; std::getline(notes, line);) EXPECT_LE(line.size(), 100u) << line;
+}
+
+TEST_P(EveryKind, ExampleIsEncodedAsTheRootDeclared) {
+  if (!kind().encode) GTEST_SKIP();
+  EXPECT_EQ(kind().roots.at(0).c_str(), parsed(encoded(exampleJson())).getNodeName());
+}
+
+TEST_P(EveryKind, ExampleRoundTrips) {
+  if (!kind().roundTrips) GTEST_SKIP();
+  EXPECT_EQ(toText(exampleJson(), 2), toText(decoded(exampleXml()), 2));
+}
+
+TEST_P(EveryKind, UnknownKeyIsRefusedWhereverItStands) {
+  if (!kind().encode) GTEST_SKIP();
+  Json json = exampleJson();
+  visit(json, "$", [&](Json& value, const std::string& path) {
+    if (!value.is_object()) return;
+    const Json kept = value;
+    // No kind has such a value, so that objects with keys of one's own choice refuse it too.
+    value["surplus"] = Json::parse("[[]]");
+    expectRefusedAt(path, json);
+    value = kept;
+  });
+}
+
+TEST_P(EveryKind, ValueOfWrongTypeIsRefusedWithItsPlace) {
+  if (!kind().encode) GTEST_SKIP();
+  Json json = exampleJson();
+  visit(json, "$", [&](Json& value, const std::string& path) {
+    const Json kept = value;
+    value = Json::parse("[[]]");
+    expectRefusedAt(path, json);
+    value = nullptr;
+    expectRefusedAt(path, json);
+    value = kept;
+  });
+}
+
+TEST_P(EveryKind, MissingOrEmptyValueIsAnErrorAtMost) {
+  if (!kind().encode) GTEST_SKIP();
+  Json json = exampleJson();
+  visit(json, "$", [&](Json& value, const std::string&) {
+    const Json kept = value;
+    if (value.is_string())
+      value = "";
+    else if (value.is_array())
+      value = Json::array();
+    else if (value.is_object())
+      value = Json::object();
+    expectNoWorse(kStatusUnfit, json.dump(), [&] { encoded(json); });
+    value = kept;
+    if (!kept.is_object()) return;
+    for (const auto& member : kept.get_ref<const Json::object_t&>()) {
+      value.erase(member.first);
+      expectNoWorse(kStatusUnfit, json.dump(), [&] { encoded(json); });
+      value = kept;
+    }
+  });
+}
+
+TEST_P(EveryKind, SecretsAreHiddenUnlessAskedFor) {
+  if (!kind().decode) GTEST_SKIP();
+  const std::string xml = exampleXml();
+  const Json shown = decoded(xml);
+  const std::string hidden = decoded(xml, false).dump();
+  for (const std::string& secret : secretsIn(shown, kind()))
+    EXPECT_EQ(std::string::npos, hidden.find(Json(secret).dump())) << secret << " shows";
+  for (const std::string& name : kind().secrets)
+    EXPECT_NE(std::string::npos, hidden.find("\"" + name + "\"")) << "the example has no " << name;
+}
+
+TEST_P(EveryKind, WrongDocumentIsRefusedByItsRoot) {
+  if (!kind().decode) GTEST_SKIP();
+  try {
+    decoded("<other/>");
+    ADD_FAILURE() << "<other/> was accepted";
+  } catch (const ToolError& error) {
+    EXPECT_EQ(kStatusUnfit, error.status());
+    EXPECT_EQ(0u,
+              std::string(error.what()).find("standard input: no " + kind().name + ": its root element is \"other\""))
+        << error.what();
+  }
+}
+
+TEST_P(EveryKind, DocumentCutShortIsRefused) {
+  if (!kind().decode) GTEST_SKIP();
+  const std::string xml = exampleXml();
+  const std::size_t last = xml.rfind('>');
+  for (std::size_t length = 0; length < last; length += 1 + last / 60)
+    EXPECT_THROW(decoded(xml.substr(0, length)), ToolError) << xml.substr(0, length);
+}
+
+TEST_P(EveryKind, DocumentWithAPartMissingIsAnErrorAtMost) {
+  if (!kind().decode) GTEST_SKIP();
+  const std::string xml = exampleXml();
+  const std::size_t elements = parsed(xml).getElementsByTagName("*").getLength();
+  for (std::size_t i = 0; i < elements; ++i) {
+    TRNIDOM_Element root = parsed(xml);
+    TRNIDOM_Node node = root.getElementsByTagName("*").item(i);
+    node.getParentNode().removeChild(node);
+    expectNoWorse(kStatusUnfit, xmlOf(root), [&] { decoded(xmlOf(root)); });
+
+    root = parsed(xml);
+    TRNIDOM_Element element = root.getElementsByTagName("*").item(i);
+    while (element.getAttributes().getLength() > 0)
+      element.removeAttribute(element.getAttributes().item(0).getNodeName());
+    while (element.hasChildNodes()) element.removeChild(element.getFirstChild());
+    expectNoWorse(kStatusUnfit, xmlOf(root), [&] { decoded(xmlOf(root)); });
+  }
+}
+
+TEST_P(EveryKind, HelpDescribesIt) {
+  for (const char* verb : {"encode", "decode"}) {
+    const bool takesPart = std::string(verb) == "encode" ? kind().encode != nullptr : kind().decode != nullptr;
+    const ToolRun help = run({verb, kind().name, "--help"});
+    EXPECT_EQ(takesPart ? 0 : 2, help.status) << help.err;
+    EXPECT_EQ(takesPart, help.out.find(kind().summary) != std::string::npos);
+  }
+  EXPECT_EQ(kind().example + "\n", run({"example", kind().name}).out);
+}
+
+INSTANTIATE_TEST_SUITE_P(, EveryKind, testing::ValuesIn(allKinds()), [](const auto& kind) { return kind.param.name; });

@@ -1,0 +1,72 @@
+#include <tools/dxmd/Files.h>
+
+#include <filesystem>
+#include <sstream>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "RunTool.h"
+
+using namespace dxmd_test;
+using namespace dxmd_tool;
+
+namespace {
+
+unsigned modeOf(const std::string& path) {
+  struct stat status {};
+  ::stat(path.c_str(), &status);
+  return status.st_mode & 07777;
+}
+
+}  // namespace
+
+TEST(Files, ReplacedFileKeepsItsModeAndNothingElseStays) {
+  const TempFolder folder;
+  const std::string path = folder.add("out", "old");
+  ::chmod(path.c_str(), 0640);
+  writeFile(path, "new");
+  EXPECT_EQ("new", readFile(path));
+  EXPECT_EQ(0640u, modeOf(path));
+  EXPECT_EQ(std::vector<std::string>{"out"}, folder.names());
+}
+
+TEST(Files, NewFileHasTheModeThatTheMaskAllows) {
+  const TempFolder folder;
+  const mode_t mask = ::umask(027);
+  writeFile(folder.path("out"), "new");
+  ::umask(mask);
+  EXPECT_EQ(0640u, modeOf(folder.path("out")));
+}
+
+TEST(Files, SymbolicLinkIsFollowed) {
+  const TempFolder folder;
+  folder.add("target", "old");
+  std::filesystem::create_symlink("target", folder.path("link"));
+  writeFile(folder.path("link"), "new");
+  EXPECT_EQ("new", bytesOf(folder.path("target")));
+  EXPECT_TRUE(std::filesystem::is_symlink(folder.path("link")));
+}
+
+TEST(Files, FailuresNameFileAndReasonAndLeaveNothing) {
+  const TempFolder folder;
+  const std::string inNowhere = folder.path("nowhere/out");
+  expectToolError(kStatusFile, inNowhere + ": cannot be written: No such file or directory",
+                  [&] { writeFile(inNowhere, "x"); });
+  expectToolError(kStatusFile, inNowhere + ": cannot be read: No such file or directory", [&] { readFile(inNowhere); });
+  expectToolError(kStatusFile, folder.path(".") + ": cannot be read: Is a directory",
+                  [&] { readFile(folder.path(".")); });
+  expectToolError(kStatusFile, "/dev/full: cannot be written: No space left on device",
+                  [&] { writeFile("/dev/full", "x"); });
+  EXPECT_TRUE(folder.names().empty());
+}
+
+TEST(Files, StreamThatFailsIsAnError) {
+  std::ostringstream out;
+  out.setstate(std::ios::badbit);
+  EXPECT_THROW(writeStream(out, "x"), ToolError);
+  std::istringstream in("x");
+  in.setstate(std::ios::badbit);
+  expectToolError(kStatusFile, "in: cannot be read", [&] { readStream(in, "in"); });
+}

@@ -1,0 +1,59 @@
+#include <tools/dxmd/json/JsonParser.h>
+
+#include <gtest/gtest.h>
+
+#include "RunTool.h"
+
+using namespace dxmd_test;
+using namespace dxmd_tool;
+
+namespace {
+
+void expectRefused(Status status, const std::string& message, const std::string& text) {
+  expectToolError(status, message, [&] { parseJson(text, "in"); });
+}
+
+std::string nested(std::size_t levels) {
+  return std::string(levels, '[') + std::string(levels, ']');
+}
+
+}  // namespace
+
+TEST(JsonParser, MembersKeepTheirOrder) {
+  EXPECT_EQ(R"({"b":1,"a":[true,null,"x",-2,0.5],"c":{}})",
+            parseJson(R"( { "b": 1, "a": [true, null, "x", -2, 0.5], "c": {} } )", "in").dump());
+}
+
+TEST(JsonParser, SyntaxErrorsNamePlaceAndShowNoText) {
+  expectRefused(kStatusSyntax, "in:2:17: not JSON: syntax error while parsing object - invalid literal; expected '}'",
+                "{\n \"password\": \"s\" secret }");
+  expectRefused(kStatusSyntax,
+                "in:1:20: not JSON: syntax error while parsing value - invalid string: missing closing quote",
+                R"({"password": "secret)");
+  const std::string open = "{\"\xC3\xA4\": \"secret\xFF\"}";
+  expectRefused(kStatusSyntax,
+                "in:1:14: not JSON: syntax error while parsing value - invalid string: ill-formed UTF-8 byte", open);
+  expectRefused(kStatusSyntax, "in:1:5: a number is out of range", "1e999");
+}
+
+TEST(JsonParser, SaysWhenInputIsEmptyOrXml) {
+  expectRefused(kStatusSyntax, "in:1:1: empty where JSON is expected", " \n");
+  expectRefused(kStatusSyntax, "in:1:1: not JSON: this looks like XML", " <command/>");
+}
+
+TEST(JsonParser, KeyThatOccursTwiceIsRefusedWithItsPlace) {
+  expectRefused(kStatusUnfit, R"(in: $.queries[1]: the key "name" occurs twice)",
+                R"({"queries": [{"name": "a"}, {"name": "b", "x": {"name": 1}, "name": "c"}]})");
+}
+
+TEST(JsonParser, RefusesMoreThan500Levels) {
+  EXPECT_EQ(nested(500), parseJson(nested(500), "in").dump());
+  expectRefused(kStatusUnfit, "in: the JSON nests deeper than 500 levels", nested(501));
+  expectRefused(kStatusUnfit, "in: the JSON nests deeper than 500 levels", std::string(1000000, '['));
+}
+
+TEST(JsonParser, ManyMembersTakeLinearTime) {
+  std::string text = "{";
+  for (int i = 0; i < 100000; ++i) text += "\"key" + std::to_string(i) + "\":0,";
+  EXPECT_EQ(100001u, parseJson(text + "\"last\":0}", "in").size());
+}

@@ -1,0 +1,69 @@
+#include "RunTool.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include <gtest/gtest.h>
+
+#include <tools/dxmd/Tool.h>
+
+namespace dxmd_test {
+
+ToolRun run(const std::vector<std::string>& args, const std::string& in) {
+  std::istringstream input(in);
+  std::ostringstream out;
+  std::ostringstream err;
+  const int status = dxmd_tool::runTool(args, input, out, err);
+  return {status, out.str(), err.str()};
+}
+
+void expectFailure(dxmd_tool::Status status, const std::string& message, const ToolRun& run) {
+  EXPECT_EQ(status, run.status);
+  EXPECT_EQ("dxmd: " + message + "\n", run.err);
+  EXPECT_EQ("", run.out);
+}
+
+void expectToolError(dxmd_tool::Status status, const std::string& message, const std::function<void()>& action) {
+  try {
+    action();
+    ADD_FAILURE() << "nothing was refused; expected " << message;
+  } catch (const dxmd_tool::ToolError& error) {
+    EXPECT_EQ(message, error.what());
+    EXPECT_EQ(status, error.status());
+  }
+}
+
+TempFolder::TempFolder() {
+  std::string pattern = std::filesystem::temp_directory_path() / "dxmd_test.XXXXXX";
+  if (::mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no folder for temporary files");
+  m_path = pattern;
+}
+
+TempFolder::~TempFolder() {
+  std::error_code ignored;
+  std::filesystem::remove_all(m_path, ignored);
+}
+
+std::string TempFolder::add(const std::string& name, const std::string& bytes) const {
+  std::ofstream(path(name), std::ios::binary) << bytes;
+  return path(name);
+}
+
+std::vector<std::string> TempFolder::names() const {
+  std::vector<std::string> all;
+  for (const auto& entry : std::filesystem::directory_iterator(m_path)) all.push_back(entry.path().filename());
+  std::sort(all.begin(), all.end());
+  return all;
+}
+
+std::string bytesOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::ostringstream bytes;
+  bytes << file.rdbuf();
+  return bytes.str();
+}
+
+}  // namespace dxmd_test

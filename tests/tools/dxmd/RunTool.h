@@ -1,0 +1,49 @@
+#ifndef TESTS_TOOLS_DXMD_RUNTOOL_H
+#define TESTS_TOOLS_DXMD_RUNTOOL_H
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <tools/dxmd/ToolError.h>
+
+namespace dxmd_test {
+
+/// What a run of the tool gave.
+struct ToolRun {
+  int status;
+  std::string out;
+  std::string err;
+};
+
+/// Runs the tool in this process.
+ToolRun run(const std::vector<std::string>& args, const std::string& in = "");
+
+/// Runs the tool, which must fail with that status, say exactly that behind "dxmd: ", and print nothing.
+void expectFailure(dxmd_tool::Status status, const std::string& message, const ToolRun& run);
+
+/// Runs the action, which must throw a ToolError of that status and message.
+void expectToolError(dxmd_tool::Status status, const std::string& message, const std::function<void()>& action);
+
+/// A folder that goes with its content at the end of the test.
+class TempFolder {
+ public:
+  TempFolder();
+  TempFolder(const TempFolder&) = delete;
+  TempFolder& operator=(const TempFolder&) = delete;
+  ~TempFolder();
+
+  std::string path(const std::string& name) const { return m_path + "/" + name; }
+  std::string add(const std::string& name, const std::string& bytes) const;
+  /// The names in the folder, sorted.
+  std::vector<std::string> names() const;
+
+ private:
+  std::string m_path;
+};
+
+std::string bytesOf(const std::string& path);
+
+}  // namespace dxmd_test
+
+#endif

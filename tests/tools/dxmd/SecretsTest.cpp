@@ -1,0 +1,50 @@
+#include <tools/dxmd/Secrets.h>
+
+#include <gtest/gtest.h>
+
+using namespace dxmd_tool;
+
+namespace {
+
+std::string masked(const std::string& text, const Kind& kind = Kind()) {
+  Json json = Json::parse(text);
+  maskSecrets(json, kind);
+  return json.dump();
+}
+
+}  // namespace
+
+TEST(Secrets, NamesHideWhatStandsUnderThem) {
+  EXPECT_EQ(R"({"password":"***","VAMPassport":"***","SSOTicket":["***","***"],"cubePassword":{"a":"***"},"name":"x"})",
+            masked(R"({"password":"p","VAMPassport":1,"SSOTicket":["t","u"],"cubePassword":{"a":"p"},"name":"x"})"));
+  EXPECT_EQ(R"({"password":""})", masked(R"({"password":""})"));
+}
+
+TEST(Secrets, NamedValueIsHiddenByItsName) {
+  EXPECT_EQ(R"([{"name":"password","value":"***"},{"name":"user","value":"u"}])",
+            masked(R"([{"name":"password","value":"p"},{"name":"user","value":"u"}])"));
+}
+
+TEST(Secrets, KindDeclaresMore) {
+  Kind kind;
+  kind.secrets = {"pin"};
+  kind.connectionStrings = {"link"};
+  EXPECT_EQ(R"({"pin":"***","link":"UID=u;PWD=***"})", masked(R"({"pin":"1","link":"UID=u;PWD=p"})", kind));
+}
+
+TEST(Secrets, ConnectionStringsKeepAllButPasswords) {
+  EXPECT_EQ("DSN=x;UID=u;PWD=***;DB=d", maskedConnectionString("DSN=x;UID=u;PWD=p;DB=d"));
+  EXPECT_EQ("Password=***", maskedConnectionString("Password= p q "));
+  EXPECT_EQ("pwd=***;x=1", maskedConnectionString("pwd={a;b};x=1"));
+  EXPECT_EQ("pwd=***;x=1", maskedConnectionString("pwd='a;b';x=1"));
+  EXPECT_EQ("pwd=***", maskedConnectionString("pwd={a;b"));
+  EXPECT_EQ("pwd=;x=1;;", maskedConnectionString("pwd=;x=1;;"));
+  EXPECT_EQ("", maskedConnectionString(""));
+}
+
+TEST(Secrets, TextsOfXmlAreSearchedToo) {
+  EXPECT_EQ(R"({"e":"<a password=\"***\"><password>***</password><p name=\"password\" value=\"***\"/><b>t</b></a>"})",
+            masked(R"({"e":"<a password='p'><password>p</password><p name='password' value='p'/><b>t</b></a>"})"));
+  EXPECT_EQ(R"({"e":"***"})", masked(R"({"e":"<password>p"})"));
+  EXPECT_EQ(R"({"e":"<a  b='c'/>"})", masked(R"({"e":"<a  b='c'/>"})"));
+}
