@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <memory>
 #include <new>
 #include <ostream>
 
@@ -37,22 +38,41 @@ Examples:
   dxmd example execute | dxmd encode execute --indent 2
   dxmd decode response reply.xml --format table)";
 
-using VerbFunction = std::string (*)(const Kind&, const Settings&, std::istream&);
+const char* const kVerbFooter = R"(FILE absent or "-" is standard input. The options and notes of a kind: dxmd )";
+
+/// Help whose usage says what stands behind the command's name.
+class UsageFormatter : public CLI::Formatter {
+ public:
+  explicit UsageFormatter(std::string usage) : m_usage(std::move(usage)) {}
+
+  std::string make_usage(const CLI::App*, std::string) const override { return "Usage: " + m_usage + "\n"; }
+
+ private:
+  std::string m_usage;
+};
+
+void setUsage(CLI::App& app, const std::string& usage) {
+  app.formatter(std::make_shared<UsageFormatter>("dxmd " + usage));
+}
 
 /// The command line: its grammar, and what it asked for once parsed.
 class CommandLine {
  public:
   CommandLine() : m_app(kDescription, "dxmd") {
     m_app.set_version_flag("--version", "dxmd " DXMD_VERSION);
+    m_app.set_help_flag("-h,--help", "Print help and exit; there is more for each verb and each kind");
     m_app.footer(kFooter);
+    setUsage(m_app, "VERB [OPTIONS] ...");
     m_app.require_subcommand(1);
     m_encode = addVerb("encode", "Read JSON, write the message as XML", KindOption::kEncode);
     m_decode = addVerb("decode", "Read XML, write what the message holds as JSON", KindOption::kDecode);
     m_kinds = m_app.add_subcommand("kinds", "List the kinds of messages, or describe one");
-    m_kinds->add_option("KIND", m_kindName, "The kind to describe");
+    m_kinds->add_option("KIND", m_kindName, "The kind to describe")->type_name("");
+    setUsage(*m_kinds, "kinds [OPTIONS] [KIND]");
     addOutput(*m_kinds);
     m_example = m_app.add_subcommand("example", "Print complete JSON to encode, or XML for a kind that is only read");
-    m_example->add_option("KIND", m_kindName, "The kind of message")->required();
+    m_example->add_option("KIND", m_kindName, "The kind of message")->required()->type_name("");
+    setUsage(*m_example, "example [OPTIONS] KIND");
     addOutput(*m_example);
   }
   CommandLine(const CommandLine&) = delete;
@@ -71,12 +91,19 @@ class CommandLine {
   }
 
   /// The help of the verb and kind that were parsed.
-  std::string help() const { return m_app.help(); }
+  /// @throws ToolError when there is no such kind.
+  std::string help() const {
+    for (const CLI::App* verb : {m_encode, m_decode})
+      if (verb->parsed() && verb->remaining_size() > 0) kindOf(*verb);
+    return m_app.help();
+  }
 
  private:
   /// A verb has one subcommand for each kind that it takes, so that a kind's own options are that subcommand's.
   CLI::App* addVerb(const char* name, const char* help, KindOption::Verb verb) {
     CLI::App* app = m_app.add_subcommand(name, help);
+    app->footer(std::string(kVerbFooter) + name + " KIND --help");
+    setUsage(*app, std::string(name) + " [OPTIONS] KIND [FILE]");
     addInputOutput(*app, verb);
     for (const Kind& kind : allKinds()) {
       if (verb == KindOption::kEncode ? !kind.encode : !kind.decode) continue;

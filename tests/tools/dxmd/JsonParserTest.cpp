@@ -25,10 +25,10 @@ TEST(JsonParser, MembersKeepTheirOrder) {
 }
 
 TEST(JsonParser, SyntaxErrorsNamePlaceAndShowNoText) {
-  expectRefused(kStatusSyntax, "in:2:17: not JSON: syntax error while parsing object - invalid literal; expected '}'",
+  expectRefused(kStatusSyntax, "in:2:18: not JSON: syntax error while parsing object - invalid literal; expected '}'",
                 "{\n \"password\": \"s\" secret }");
   expectRefused(kStatusSyntax,
-                "in:1:20: not JSON: syntax error while parsing value - invalid string: missing closing quote",
+                "in:1:21: not JSON: syntax error while parsing value - invalid string: missing closing quote",
                 R"({"password": "secret)");
   const std::string open = "{\"\xC3\xA4\": \"secret\xFF\"}";
   expectRefused(kStatusSyntax,

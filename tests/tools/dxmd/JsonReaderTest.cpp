@@ -104,6 +104,6 @@ TEST(JsonReader, NumbersKeepToTheirRange) {
 TEST(JsonReader, RefusalOfASecretDoesNotShowIt) {
   expectRefused(R"(in: $.PassWord: the text is none of "small", "large")", R"({"PassWord": "hush"})",
                 [](JsonObject& json) { json.required("PassWord").enumerator(kSizes); });
-  expectRefused("in: $.xml: the text is not well-formed XML (line 1, column 11)", R"({"xml": "<password hush"})",
+  expectRefused("in: $.xml: the text is not well-formed XML (line 1, column 15)", R"({"xml": "<password hush"})",
                 [](JsonObject& json) { json.required("xml").xml(); });
 }

@@ -9,7 +9,7 @@ using namespace dxmd_tool;
 
 TEST(JsonWriter, ShortListsOfPlainValuesStandOnOneLine) {
   Json json;
-  json["rows"] = {{"North", "1"}, {"South", "ä\n"}};
+  json["rows"] = Json::array({Json::array({"North", "1"}), Json::array({"South", "ä\n"})});
   json["empty"] = Json::array();
   json["long"] = {std::string(60, 'x'), std::string(60, 'y')};
   EXPECT_EQ(R"({

@@ -34,5 +34,5 @@ TEST(Table, RaggedRowsAndMissingColumnsKeepTheirPlaces) {
 TEST(Table, ControlCharactersPrintAsEscapes) {
   Table table({"a"});
   table.addRow({"x\ny\t\x1B[2J"});
-  EXPECT_EQ("a\n------------\nx\\ny\\t\\x1B[2J\n", table.text());
+  EXPECT_EQ("a\n-------------\nx\\ny\\t\\x1B[2J\n", table.text());
 }

@@ -10,10 +10,10 @@ Kind connectionKind() {
   kind.name = "connection";
   kind.summary = "What a request runs against: service, data source, user, session and models";
   kind.notes = R"(Commands take the same object under their key "connection".
-"modelPath" is written as the data source. "properties" may hold any key that is an element name, and
-replaces what the other keys set under that name; an empty value writes nothing. "sessionID" is a
-number from 0 to 4294967295; from 2147483648 on it is written as the negative number of the same bits.
-A model is of kind "bmeModel" when "bme" is true, else "Model".)";
+"modelPath" is written as the data source. "properties" may hold any key that is an element name;
+it replaces what the other keys set under that name, and an empty value writes nothing. "sessionID"
+is a number from 0 to 4294967295; from 2147483648 on it is written as the negative number of the
+same bits. A model is of kind "bmeModel" when "bme" is true, else "Model".)";
   kind.roots = {"connection"};
   kind.encode = [](JsonObject& json, const KindOptions&) { return readConnection(json); };
   kind.example = R"({
