@@ -18,6 +18,9 @@ function(dxmd_add_library target alias output)
   string(REGEX REPLACE ".*::" "" export_name ${alias})
   set_target_properties(${target} PROPERTIES
     OUTPUT_NAME ${output} EXPORT_NAME ${export_name} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
-  target_link_options(${target} PRIVATE -Wl,--no-undefined)
+  # A sanitizer's own symbols are in the program, as clang has it, so that its libraries must leave them undefined.
+  if(NOT DXMD_SANITIZE)
+    target_link_options(${target} PRIVATE -Wl,--no-undefined)
+  endif()
   dxmd_target_options(${target})
 endfunction()
