@@ -37,9 +37,9 @@ TEST(TRNAssert, SaysWhere) {
   const int line = __LINE__ + 1;
   const TRNAssertError error = failureOf([] { TRN_ASSERT(1 == 2); });
   EXPECT_EQ(0, error.getCode());
-  EXPECT_STREQ("TRNAssert_test", error.getLocation().getFile());
+  EXPECT_STREQ("TRNAssertTest", error.getLocation().getFile());
   EXPECT_EQ(line, error.getLocation().getLine());
-  EXPECT_EQ("TRNAssert_test(" + std::to_string(line) + "): TRN_ASSERT(1 == 2);", error.what());
+  EXPECT_EQ("TRNAssertTest(" + std::to_string(line) + "): TRN_ASSERT(1 == 2);", error.what());
 }
 
 TEST(TRNAssert, ConditionIsEvaluatedOnce) {
