@@ -30,8 +30,8 @@ Exit status:
   3  a file cannot be read or written
   4  the input is not well-formed XML or JSON: the message names file, line and column
 
-Passwords, passports and tickets print as *** in decoded JSON and are in no error text. Encoded
-XML holds them: it is the message itself.
+Passwords, passports and tickets print as *** in decoded JSON and are in no error text. XML that
+is written holds them: it is the message itself.
 
 Examples:
   dxmd kinds execute
@@ -63,17 +63,20 @@ class CommandLine {
     m_app.set_help_flag("-h,--help", "Print help and exit; there is more for each verb and each kind");
     m_app.footer(kFooter);
     setUsage(m_app, "VERB [OPTIONS] ...");
-    m_app.require_subcommand(1);
     m_encode = addVerb("encode", "Read JSON, write the message as XML", KindOption::kEncode);
     m_decode = addVerb("decode", "Read XML, write what the message holds as JSON", KindOption::kDecode);
     m_kinds = m_app.add_subcommand("kinds", "List the kinds of messages, or describe one");
-    m_kinds->add_option("KIND", m_kindName, "The kind to describe")->type_name("");
+    m_kinds->add_option("KIND", m_kindName, "The kind to describe")->option_text(" ");
+    m_kinds->footer("");
     setUsage(*m_kinds, "kinds [OPTIONS] [KIND]");
     addOutput(*m_kinds);
     m_example = m_app.add_subcommand("example", "Print complete JSON to encode, or XML for a kind that is only read");
-    m_example->add_option("KIND", m_kindName, "The kind of message")->required()->type_name("");
+    m_example->add_option("KIND", m_kindName, "The kind of message")->required()->option_text(" ");
+    m_example->footer("");
     setUsage(*m_example, "example [OPTIONS] KIND");
     addOutput(*m_example);
+    // Last, since verbs would inherit it: what is no verb ends up here, where it can be told what the verbs are.
+    m_app.allow_extras();
   }
   CommandLine(const CommandLine&) = delete;
   CommandLine& operator=(const CommandLine&) = delete;
@@ -91,11 +94,20 @@ class CommandLine {
   }
 
   /// The help of the verb and kind that were parsed.
-  /// @throws ToolError when there is no such kind.
+  /// @throws ToolError when there is no such verb or kind.
   std::string help() const {
+    if (m_app.remaining_size() > 0) checkVerb();
     for (const CLI::App* verb : {m_encode, m_decode})
       if (verb->parsed() && verb->remaining_size() > 0) kindOf(*verb);
     return m_app.help();
+  }
+
+  /// Refuses the command line, for a reason that the help of the verb and kind explains.
+  [[noreturn]] void fail(const std::string& reason) const {
+    std::string command = "dxmd";
+    for (auto below = m_app.get_subcommands(); !below.empty(); below = below.back()->get_subcommands())
+      command += " " + below.back()->get_name();
+    throw ToolError(kStatusUsage, reason + " (see " + command + " --help)");
   }
 
  private:
@@ -108,9 +120,11 @@ class CommandLine {
     for (const Kind& kind : allKinds()) {
       if (verb == KindOption::kEncode ? !kind.encode : !kind.decode) continue;
       CLI::App* command = app->add_subcommand(kind.name, kind.summary);
+      command->group("Kinds");
       command->footer(notesOf(kind));
-      command->add_option("FILE", m_settings.file,
-                          verb == KindOption::kEncode ? "The JSON to read" : "The XML to read");
+      setUsage(*command, name + (" " + kind.name) + " [OPTIONS] [FILE]");
+      command->add_option("FILE", m_settings.file, verb == KindOption::kEncode ? "The JSON to read" : "The XML to read")
+          ->option_text(" ");
       addInputOutput(*command, verb);
       for (const KindOption& option : kind.options)
         if (option.verb == verb) addKindOption(*command, option);
@@ -148,6 +162,7 @@ class CommandLine {
   }
 
   std::string result(std::istream& in) {
+    checkVerb();
     m_settings.kindOptions = KindOptions(m_kindValues);
     if (m_encode->parsed()) return encode(kindOf(*m_encode), m_settings, in);
     if (m_decode->parsed()) return decode(kindOf(*m_decode), m_settings, in);
@@ -155,20 +170,32 @@ class CommandLine {
     return m_kindName.empty() ? listKinds() : describe(findKind(m_kindName));
   }
 
+  /// Refuses anything but one verb.
+  void checkVerb() const {
+    const std::vector<std::string> extras = m_app.remaining();
+    const bool hasVerb = !m_app.get_subcommands().empty();
+    if (!extras.empty() && (hasVerb || isOption(extras[0]))) failUnexpected(extras[0]);
+    if (!extras.empty()) fail(inQuotes(extras[0]) + " is no verb; the verbs are encode, decode, kinds and example");
+    if (!hasVerb) fail("a verb is needed: encode, decode, kinds or example");
+  }
+
   /// The kind that the verb was given.
-  static const Kind& kindOf(const CLI::App& verb) {
+  const Kind& kindOf(const CLI::App& verb) const {
     const std::vector<std::string> extras = verb.remaining();
-    const auto commands = verb.get_subcommands();
-    if (commands.empty() && extras.empty())
-      throw ToolError(kStatusUsage,
-                      verb.get_name() + " needs a kind of message (see dxmd " + verb.get_name() + " --help)");
-    if (!extras.empty() && (extras[0][0] == '-' || !commands.empty()))
-      throw ToolError(kStatusUsage, "unexpected argument " + inQuotes(extras[0]));
-    const Kind& kind = findKind(commands.empty() ? extras[0] : commands[0]->get_name());
-    if (commands.empty())
+    const auto kinds = verb.get_subcommands();
+    if (!extras.empty() && (!kinds.empty() || isOption(extras[0]))) failUnexpected(extras[0]);
+    if (extras.empty() && kinds.empty()) fail("a kind of message is needed");
+    const Kind& kind = findKind(kinds.empty() ? extras[0] : kinds[0]->get_name());
+    if (kinds.empty())
       throw ToolError(kStatusUsage, "the kind " + kind.name + " is only " +
                                         (kind.encode ? "written: dxmd encode " : "read: dxmd decode ") + kind.name);
     return kind;
+  }
+
+  static bool isOption(const std::string& argument) { return argument.compare(0, 1, "-") == 0; }
+
+  [[noreturn]] void failUnexpected(const std::string& argument) const {
+    fail("unexpected argument " + inQuotes(argument));
   }
 
   CLI::App m_app;
@@ -194,10 +221,9 @@ int runTool(const std::vector<std::string>& args, std::istream& in, std::ostream
       writeStream(out, commandLine.help());
     } catch (const CLI::CallForVersion& version) {
       writeStream(out, version.what() + std::string("\n"));
+    } catch (const CLI::ParseError& error) {
+      commandLine.fail(error.what());
     }
-  } catch (const CLI::ParseError& error) {
-    status = kStatusUsage;
-    message = error.what() + std::string(" (see dxmd --help)");
   } catch (const ToolError& error) {
     status = error.status();
     message = error.what();

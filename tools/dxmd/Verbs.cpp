@@ -52,6 +52,8 @@ auto refusalsNamed(const std::string& name, const Action& action) {
   } catch (const TRNAssertError& error) {
     throw ToolError(kStatusUnfit,
                     name + ": " + error.getLocation().getFile() + " refuses it: " + error.getMessage().toUtf8());
+  } catch (const JsonTooDeep& error) {
+    throw ToolError(kStatusUnfit, name + ": " + error.what());
   } catch (const TRNIDOM_DOMException& error) {
     throw ToolError(kStatusUnfit, name + ": " + error.what());
   }
@@ -89,6 +91,12 @@ std::string xmlLine(const TRNIDOM_Node& node, unsigned indent) {
   return xml;
 }
 
+std::string jsonLine(Json& json, const Kind& kind, const Settings& settings) {
+  checkJsonDepth(json);
+  if (!settings.showSecrets) maskSecrets(json, kind);
+  return toText(json, settings.indent.value_or(kJsonIndent)) + "\n";
+}
+
 }  // namespace
 
 std::string encode(const Kind& kind, const Settings& settings, std::istream& in) {
@@ -105,14 +113,13 @@ std::string decode(const Kind& kind, const Settings& settings, std::istream& in)
   const std::string name = inputName(settings);
   TRNIDOM_Element root = parseXml(readInput(settings, in), name).getDocumentElement();
   checkRoot(kind, root, name);
-  Decoded decoded = refusalsNamed(name, [&] { return kind.decode(root, settings.kindOptions); });
-  if (const auto* element = std::get_if<TRNIDOM_Element>(&decoded))
-    return xmlLine(*element, settings.indent.value_or(0));
-  if (const auto* text = std::get_if<std::string>(&decoded)) return *text;
-  Json& json = std::get<Json>(decoded);
-  checkJsonDepth(json);
-  if (!settings.showSecrets) maskSecrets(json, kind);
-  return toText(json, settings.indent.value_or(kJsonIndent)) + "\n";
+  return refusalsNamed(name, [&] {
+    Decoded decoded = kind.decode(root, settings.kindOptions);
+    if (auto* json = std::get_if<Json>(&decoded)) return jsonLine(*json, kind, settings);
+    if (const auto* element = std::get_if<TRNIDOM_Element>(&decoded))
+      return xmlLine(*element, settings.indent.value_or(0));
+    return std::get<std::string>(decoded);
+  });
 }
 
 std::string listKinds() {
@@ -133,8 +140,7 @@ std::string notesOf(const Kind& kind) {
   if (!kind.orHolding.empty()) notes += ", or any that holds " + joined(kind.orHolding);
   notes += "\n";
   if (!kind.secrets.empty()) notes += "Hidden when decoded, unless --show-secrets: " + joined(kind.secrets) + "\n";
-  notes += "To start from: dxmd example " + kind.name + "\n";
-  return notes;
+  return notes + "To start from: dxmd example " + kind.name;
 }
 
 std::string describe(const Kind& kind) {
@@ -143,7 +149,7 @@ std::string describe(const Kind& kind) {
   if (kind.decode) text += "  dxmd decode " + kind.name + " [FILE]\n";
   for (const KindOption& option : kind.options)
     text += std::string("    ") + option.name + " " + option.argument + "  " + option.help + "\n";
-  return text + "\n" + notesOf(kind);
+  return text + "\n" + notesOf(kind) + "\n";
 }
 
 }  // namespace dxmd_tool

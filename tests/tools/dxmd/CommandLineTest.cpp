@@ -27,14 +27,18 @@ bool has(const std::string& text, const std::string& part) {
 }  // namespace
 
 TEST(CommandLine, WrongUsageIsStatus2) {
-  EXPECT_EQ(2, run({}).status);
-  EXPECT_EQ(2, run({"frobnicate"}).status);
+  EXPECT_EQ(2, run({"--indent", "2", "encode", "execute"}, "{}").status);
   EXPECT_EQ(2, run({"encode", "execute", "a", "b"}).status);
   EXPECT_EQ(2, run({"encode", "execute", "--indent", "x"}, "{}").status);
   EXPECT_EQ(2, run({"encode", "execute", "--indent", "-1"}, "{}").status);
   EXPECT_EQ(2, run({"decode", "response", "--format", "csv"}).status);
   EXPECT_EQ(2, run({"decode", "response", "--output"}).status);
-  expectFailure(kStatusUsage, "encode needs a kind of message (see dxmd encode --help)", run({"encode"}));
+  expectFailure(kStatusUsage, "a verb is needed: encode, decode, kinds or example (see dxmd --help)", run({}));
+  expectFailure(kStatusUsage, "\"foo\" is no verb; the verbs are encode, decode, kinds and example (see dxmd --help)",
+                run({"foo"}));
+  expectFailure(kStatusUsage, "a kind of message is needed (see dxmd encode --help)", run({"encode"}));
+  expectFailure(kStatusUsage, "unexpected argument \"--x\" (see dxmd encode execute --help)",
+                run({"encode", "--x", "execute"}));
   expectFailure(kStatusUsage, "the kind response is only read: dxmd decode response", run({"encode", "response"}));
   expectFailure(kStatusUsage, "the kind execute is only written: dxmd encode execute", run({"decode", "execute"}));
   EXPECT_TRUE(has(run({"decode", "nonsense"}).err, "\"nonsense\" is no kind of message; the kinds are execute, "));

@@ -2,9 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "RunTool.h"
-
-using namespace dxmd_test;
 using namespace dxmd_tool;
 
 TEST(JsonWriter, ShortListsOfPlainValuesStandOnOneLine) {
@@ -44,6 +41,5 @@ TEST(JsonWriter, RefusesToWriteMoreThan500Levels) {
   for (int level = 0; level < 500; ++level) json = Json::array({std::move(json)});
   checkJsonDepth(json);
   json = Json::array({std::move(json)});
-  expectToolError(kStatusUnfit, "the JSON for this document would nest deeper than 500 levels",
-                  [&] { checkJsonDepth(json); });
+  EXPECT_THROW(checkJsonDepth(json), JsonTooDeep);
 }

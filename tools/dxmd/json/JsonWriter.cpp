@@ -5,8 +5,6 @@
 
 #include <trnidom/TRNIDOM_Writer.h>
 
-#include <tools/dxmd/ToolError.h>
-
 namespace dxmd_tool {
 
 namespace {
@@ -63,10 +61,12 @@ I18NString xmlText(const TRNIDOM_Node& node) {
   return I18NString(xml.data(), nullptr, static_cast<long>(xml.size()));
 }
 
+JsonTooDeep::JsonTooDeep()
+    : std::length_error("the JSON for this document would nest deeper than " + std::to_string(kMaxJsonDepth) +
+                        " levels") {}
+
 void checkDepth(std::size_t depth) {
-  if (depth > kMaxJsonDepth)
-    throw ToolError(kStatusUnfit,
-                    "the JSON for this document would nest deeper than " + std::to_string(kMaxJsonDepth) + " levels");
+  if (depth > kMaxJsonDepth) throw JsonTooDeep();
 }
 
 void checkJsonDepth(const Json& json) {

@@ -2,6 +2,7 @@
 #define TOOLS_DXMD_JSON_JSONWRITER_H
 
 #include <cstddef>
+#include <stdexcept>
 #include <string>
 
 #include <trn/I18NString.h>
@@ -20,12 +21,18 @@ void putUnlessEmpty(Json& json, const char* key, Json list);
 /// A node as a text of XML, which `JsonValue::xml` reads back.
 I18NString xmlText(const TRNIDOM_Node& node);
 
+/// Decoded JSON that would nest deeper than `kMaxJsonDepth`.
+class JsonTooDeep : public std::length_error {
+ public:
+  JsonTooDeep();
+};
+
 /// For decoders of nested records, before each step down: refuses more levels than JSON is written with.
-/// @throws ToolError
+/// @throws JsonTooDeep
 void checkDepth(std::size_t depth);
 
 /// Refuses JSON that nests too deep for functions that walk it.
-/// @throws ToolError
+/// @throws JsonTooDeep
 void checkJsonDepth(const Json& json);
 
 /// The text of JSON: a list of plain values that is not too long stands on one line. `indent` 0 writes one line in all.
