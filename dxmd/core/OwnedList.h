@@ -26,6 +26,7 @@ class OwnedList {
 
   bool empty() const noexcept { return m_items.empty(); }
   std::size_t size() const noexcept { return m_items.size(); }
+  T* operator[](std::size_t index) const noexcept { return m_items[index]; }
   auto begin() const noexcept { return m_items.begin(); }
   auto end() const noexcept { return m_items.end(); }
 

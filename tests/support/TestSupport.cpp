@@ -39,6 +39,15 @@ std::string made(const ActionHandlerBase& helper) {
   return xmlOf(madeElement(helper));
 }
 
+std::string inEnvelope(const std::string& command) {
+  return R"(<command xmlns="urn:dxmd:query-service:api:1" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance">)" +
+         command + R"(<commandID value="DXCommand"/><requestID value="DXRequest"/></command>)";
+}
+
+std::string inDXEnvelope(const std::string& command) {
+  return inEnvelope("<dxCommand><source><model>m</model></source>" + command + "</dxCommand>");
+}
+
 void expectXml(const std::string& expected, const std::string& actual) {
   EXPECT_EQ(oneElementPerLine(expected), oneElementPerLine(actual));
 }

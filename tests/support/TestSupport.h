@@ -31,14 +31,20 @@ TRNIDOM_Element madeElement(const ActionHandlerBase& helper);
 /// What the helper's `Make` hands back, as compact XML.
 std::string made(const ActionHandlerBase& helper);
 
-/// A helper that took the document element of the parsed text.
-template <typename Helper>
-std::unique_ptr<Helper> taken(const std::string& xml) {
-  auto helper = std::make_unique<Helper>();
+/// A helper, made from the arguments, that took the document element of the parsed text.
+template <typename Helper, typename... Args>
+std::unique_ptr<Helper> taken(const std::string& xml, const Args&... args) {
+  auto helper = std::make_unique<Helper>(args...);
   TRNIDOM_Element element = parsed(xml);
   helper->Take(element);
   return helper;
 }
+
+/// The command in its envelope, with the identifiers that commands have by default.
+std::string inEnvelope(const std::string& command);
+
+/// The modelling command in its envelope, for a model that goes by "m".
+std::string inDXEnvelope(const std::string& command);
 
 /// Compares two compact XML texts; a difference is printed element by element.
 void expectXml(const std::string& expected, const std::string& actual);
