@@ -1,6 +1,6 @@
 #include <dxmd/queryservice/QsParamValueItemHierarchyHelper.h>
 
-#include <utility>
+#include <cstddef>
 
 #include <trn/TRNAssert.h>
 #include <trnidom/TRNIDOM_Helper.h>
@@ -53,21 +53,30 @@ QsParamValueItemHierarchyHelper* QsParamValueItemHierarchyHelper::AddSubNode() {
 }
 
 void QsParamValueItemHierarchyHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const {
+  struct Made {
+    const QsParamValueItemHierarchyHelper* node;
+    TRNIDOM_Element item;
+    TRNIDOM_Element subNodes;
+  };
   QsParamValueItemHelper::doMake(doc, elem);
 
-  // The items whose sub-nodes are still to be written, each with the element they go into. Sub-nodes may nest to any
-  // depth, so this is a list and no recursion; each item enters the tree while it is empty, which costs the DOM no
-  // search for cycles.
-  std::vector<std::pair<const QsParamValueItemHierarchyHelper*, TRNIDOM_Element>> open{{this, makeContent(elem)}};
-  while (!open.empty()) {
-    auto [node, subNodes] = std::move(open.back());
-    open.pop_back();
-    for (const QsParamValueItemHierarchyHelper* subNode : node->m_subNodes) {
+  // Sub-nodes nest to any depth, so all items are made level by level, the sub-nodes of one item in a row.
+  std::vector<Made> all{{this, elem, makeContent(elem)}};
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    for (const QsParamValueItemHierarchyHelper* node : all[i].node->m_subNodes) {
       TRNIDOM_Element item;
-      subNode->QsParamValueItemHelper::doMake(doc, item);
-      subNodes.appendChild(item);
-      open.emplace_back(subNode, subNode->makeContent(item));
+      node->QsParamValueItemHelper::doMake(doc, item);
+      all.push_back({node, item, node->makeContent(item)});
     }
+  }
+
+  // They are joined from the last up: an append looks for the new child among the parent's ancestors, which are few as
+  // long as the parent itself stands alone.
+  std::size_t end = all.size();
+  for (auto parent = all.rbegin(); parent != all.rend(); ++parent) {
+    const std::size_t begin = end - parent->node->m_subNodes.size();
+    for (std::size_t i = begin; i < end; ++i) parent->subNodes.appendChild(all[i].item);
+    end = begin;
   }
 }
 
