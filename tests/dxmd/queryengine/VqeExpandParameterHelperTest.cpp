@@ -1,0 +1,86 @@
+#include <dxmd/queryengine/VqeExpandParameterHelper.h>
+
+#include <trn/I18NLocale.h>
+
+#include <dxmd/queryengine/VqeCancelQueryHelper.h>
+
+#include "TestSupport.h"
+
+using namespace dxmd_test;
+
+namespace {
+
+std::string expanded(const std::string& response) {
+  return taken<VqeExpandParameterHelper>(response, "m")->GetExpandedQuery().toUtf8();
+}
+
+void expectNotOneResult(const std::string& response) {
+  expectAssert(
+      "TRN_ASSERT(resultList.getLength() == 1 && resultList.item(0).getNodeType() == TRNIDOM_Node::ELEMENT_NODE && "
+      "resultList.item(0).getFirstChild().getNodeType() == TRNIDOM_Node::TEXT_NODE);",
+      "VqeExpandParameterHelper", [&] { expanded(response); });
+}
+
+}  // namespace
+
+TEST(VqeCancelQueryHelper, NamesTheDefaultRequestUnderIdentifiersOfItsOwn) {
+  const VqeCancelQueryHelper command;
+  expectXml(R"(<command xmlns="urn:dxmd:query-service:api:1" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance">)"
+            R"(<cancel><requestID value="DXRequest"/></cancel>)"
+            R"(<commandID value="DXCancelCommand"/><requestID value="DXCancelRequest"/></command>)",
+            made(command));
+}
+
+TEST(VqeCancelQueryHelper, OwnRequestCanBeRenamedWithoutChangingTheOneCancelled) {
+  VqeCancelQueryHelper command;
+  command.SetProperty(QFCommandHelper::kPropertyRequestID, "mine");
+  EXPECT_NE(std::string::npos, made(command).find(R"(<cancel><requestID value="DXRequest"/></cancel>)"));
+  EXPECT_NE(std::string::npos, made(command).find(R"(<requestID value="mine"/></command>)"));
+}
+
+TEST(VqeExpandParameterHelper, WritesTheExpressionAlsoWhenEmpty) {
+  VqeExpandParameterHelper command("m");
+  expectXml(inDXEnvelope("<expand><expression/></expand>"), made(command));
+  command.SetParameterisedValue("?p? < 1");
+  expectXml(inDXEnvelope("<expand><expression>?p? &lt; 1</expression></expand>"), made(command));
+}
+
+TEST(VqeExpandParameterHelper, CarriesLocaleFeedbacksAndConnection) {
+  VqeExpandParameterHelper command("m");
+  const I18NLocale locale("de-ch");
+  TRNIDOM_Element connection = parsed("<connection/>");
+  command.SetQueryLocale(&locale);
+  command.AddQueryFeedback(QFExecuteCommandHelper::kQueryFeedbackNativeCommandText);
+  command.SetConnection(connection);
+  const std::string xml = made(command);
+  EXPECT_NE(std::string::npos, xml.find(R"(<connection/><dxCommand queryLocale="de-ch"><source>)"));
+  EXPECT_NE(std::string::npos, xml.find(R"(</expand><queryFeedback><property name="nativeCommandText"/>)"));
+}
+
+TEST(VqeExpandParameterHelper, GivesTheFirstTextOfTheOnlyResult) {
+  EXPECT_EQ("[a]=1", expanded("<response><x><expansionResult>[a]=1</expansionResult></x></response>"));
+  EXPECT_EQ("a", expanded("<response><expansionResult>a<b/>c</expansionResult></response>"));
+}
+
+TEST(VqeExpandParameterHelper, RefusesAnyOtherNumberOfResultsAndOthersThanText) {
+  expectNotOneResult("<response/>");
+  expectNotOneResult("<response><expansionResult/></response>");
+  expectNotOneResult("<response><expansionResult>a</expansionResult><expansionResult>b</expansionResult></response>");
+  expectNotOneResult("<response><expansionResult><!--c-->a</expansionResult></response>");
+  expectNotOneResult("<response><expansionResult><![CDATA[a]]></expansionResult></response>");
+  expectNotOneResult("<expansionResult>a result is looked for below the response</expansionResult>");
+}
+
+TEST(VqeExpandParameterHelper, ResponseOutlivesItsDocumentHandleAndIsReplacedByTheNext) {
+  VqeExpandParameterHelper command("m");
+  EXPECT_EQ("", command.GetExpandedQuery());
+  for (const char* text : {"one", "two"}) {
+    TRNIDOM_Element response = parsed("<r><expansionResult>" + std::string(text) + "</expansionResult></r>");
+    command.Take(response);
+    response = TRNIDOM_Element();
+    EXPECT_EQ(text, command.GetExpandedQuery());
+  }
+  TRNIDOM_Element none;
+  command.Take(none);
+  EXPECT_EQ("", command.GetExpandedQuery());
+}

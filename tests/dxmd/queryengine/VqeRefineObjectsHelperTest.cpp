@@ -1,0 +1,110 @@
+#include <dxmd/queryengine/VqeRefineObjectsHelper.h>
+
+#include <vector>
+
+#include "TestSupport.h"
+
+using namespace dxmd_test;
+
+namespace {
+
+const char* const kFile = "VqeRefineObjectsHelper";
+const char* const kEmptyID = "TRN_ASSERT(!objectID.empty());";
+const char* const kNextMustBeObject =
+    "TRN_ASSERT(m_currentResponseObject.isNull() || m_currentResponseObject.getNodeName() == "
+    "dxmd_actionhelper_resources_expression_str);";
+
+std::vector<std::string> objectsOf(const std::string& response) {
+  const auto command = taken<VqeRefineObjectsHelper>(response, "m");
+  std::vector<std::string> objects;
+  I18NString object;
+  while (command->getResponseObject(object)) objects.push_back(object.toUtf8());
+  return objects;
+}
+
+}  // namespace
+
+TEST(VqeRefineObjectsHelper, ObjectsGoIntoTheTreeLastMade) {
+  VqeRefineObjectsHelper command("m");
+  const TRNIDOM_Element first = madeElement(command);
+  command.addRequestObject("b");
+  command.addRequestObject("a & b");
+  const TRNIDOM_Element second = madeElement(command);
+  command.addRequestObject("c");
+  expectXml(inDXEnvelope("<refinePublishedModel><expression>b</expression><expression>a &amp; b</expression>"
+                         "</refinePublishedModel>"),
+            first);
+  expectXml(inDXEnvelope("<refinePublishedModel><expression>c</expression></refinePublishedModel>"), second);
+}
+
+TEST(VqeRefineObjectsHelper, ObjectsCanBeAddedAfterTheCallerDroppedTheTree) {
+  VqeRefineObjectsHelper command("m");
+  madeElement(command);
+  command.addRequestObject("a");
+  expectXml(inDXEnvelope("<refinePublishedModel/>"), made(command));
+}
+
+TEST(VqeRefineObjectsHelper, RefusesEmptyObjectsAndObjectsBeforeMake) {
+  VqeRefineObjectsHelper command("m");
+  expectAssert("TRN_ASSERT(!m_requestRoot.isNull());", kFile, [&] { command.addRequestObject("a"); });
+  expectAssert(kEmptyID, kFile, [&] { command.addRequestObject(""); });
+  const TRNIDOM_Element element = madeElement(command);
+  expectAssert(kEmptyID, kFile, [&] { command.addRequestObject(""); });
+  expectXml(inDXEnvelope("<refinePublishedModel/>"), element);
+}
+
+TEST(VqeRefineObjectsHelper, HandsOutAdjacentObjectsOneByOne) {
+  EXPECT_EQ((std::vector<std::string>{"a", "b", "c"}),
+            objectsOf("<r><response> <expression>a</expression><expression>b<x/></expression>"
+                      "<expression><![CDATA[c]]></expression></response></r>"));
+  EXPECT_EQ(std::vector<std::string>{}, objectsOf("<response><x/></response>"));
+}
+
+TEST(VqeRefineObjectsHelper, NothingMayStandBetweenObjects) {
+  for (const char* between : {"\n", "<x/>", "<!--c-->"}) {
+    const auto command = taken<VqeRefineObjectsHelper>(
+        "<response><expression>a</expression>" + std::string(between) + "<expression>b</expression></response>", "m");
+    I18NString object;
+    expectAssert(kNextMustBeObject, kFile, [&] { command->getResponseObject(object); });
+    EXPECT_EQ("a", object) << "the object before the offending node was set";
+  }
+}
+
+TEST(VqeRefineObjectsHelper, WalkStandsOnTheOffendingNode) {
+  const auto command = taken<VqeRefineObjectsHelper>("<response><expression>a</expression>odd</response>", "m");
+  I18NString object;
+  EXPECT_ANY_THROW(command->getResponseObject(object));
+  // A text node has no text children, so it counts as an object without identifier.
+  expectAssert(kEmptyID, kFile, [&] { command->getResponseObject(object); });
+}
+
+TEST(VqeRefineObjectsHelper, RefusesAnObjectWithoutIdentifier) {
+  const auto command = taken<VqeRefineObjectsHelper>("<response><expression/></response>", "m");
+  I18NString object("kept?");
+  expectAssert(kEmptyID, kFile, [&] { command->getResponseObject(object); });
+  EXPECT_EQ("", object);
+}
+
+TEST(VqeRefineObjectsHelper, RefusesAResponseThatIsNullOrHasItsFirstObjectElsewhere) {
+  VqeRefineObjectsHelper command("m");
+  TRNIDOM_Element none;
+  expectAssert("TRN_ASSERT(!domResponse.isNull());", kFile, [&] { command.Take(none); });
+  TRNIDOM_Element elsewhere = parsed("<response><x><expression>a</expression></x></response>");
+  expectAssert(
+      "TRN_ASSERT(m_currentResponseObject.isNull() || m_currentResponseObject.getParentNode().getNodeName() == "
+      "dxmd_actionhelper_resources_response_str);",
+      kFile, [&] { command.Take(elsewhere); });
+}
+
+TEST(VqeRefineObjectsHelper, AnotherResponseRestartsTheWalkAndTheEndLeavesTheCallersText) {
+  VqeRefineObjectsHelper command("m");
+  I18NString object("untouched");
+  EXPECT_FALSE(command.getResponseObject(object));
+  EXPECT_EQ("untouched", object);
+  TRNIDOM_Element response = parsed("<response><expression>a</expression><expression>b</expression></response>");
+  for (int time = 0; time < 2; ++time) {
+    command.Take(response);
+    EXPECT_TRUE(command.getResponseObject(object));
+    EXPECT_EQ("a", object);
+  }
+}

@@ -1,0 +1,43 @@
+#include <dxmd/queryframework/QFUpdateCommandHelper.h>
+
+#include "TestSupport.h"
+
+using namespace dxmd_test;
+
+namespace {
+
+// The command of an update set with these children behind the model path.
+std::string updateOf(const std::string& subjects) {
+  return inEnvelope("<update><updateSet><modelPath>m</modelPath>" + subjects + "</updateSet></update>");
+}
+
+}  // namespace
+
+TEST(QFUpdateCommandHelper, WritesSubjectsBehindTheModelPathInOrder) {
+  QFUpdateCommandHelper command("m");
+  expectXml(updateOf(""), made(command));
+  command.AddUpdateSubject("b", "1 < 2");
+  command.AddUpdateSubject("a", "");
+  command.AddUpdateSubject("b", "1 < 2");
+  const std::string expected =
+      updateOf(R"(<updateSubject name="b">1 &lt; 2</updateSubject><updateSubject name="a"></updateSubject>)"
+               R"(<updateSubject name="b">1 &lt; 2</updateSubject>)");
+  expectXml(expected, made(command));
+  expectXml(expected, made(command));
+}
+
+TEST(QFUpdateCommandHelper, ModelPathIsWrittenAlsoWhenEmpty) {
+  expectXml(inEnvelope("<update><updateSet><modelPath/></updateSet></update>"), made(QFUpdateCommandHelper("")));
+}
+
+TEST(QFUpdateCommandHelper, TakesAConnectionBeforeAndAfterItIsMade) {
+  QFUpdateCommandHelper command("m");
+  TRNIDOM_Element connection = parsed(R"(<connection n="1"/>)");
+  command.SetConnection(connection);
+  TRNIDOM_Element element = madeElement(command);
+  EXPECT_EQ(R"(<connection n="1"/>)", xmlOf(element.getFirstChild()));
+  TRNIDOM_Element other = parsed(R"(<connection n="2"><dataSourceType value="x"/></connection>)");
+  QFCommandHelper::AddConnection(element, other);
+  EXPECT_EQ(R"(<connection n="2"><dataSourceType value="x"/></connection>)", xmlOf(element.getFirstChild()));
+  EXPECT_EQ("update", element.getFirstChild().getNextSibling().getNodeName());
+}
