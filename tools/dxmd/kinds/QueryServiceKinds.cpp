@@ -1,3 +1,5 @@
+#include "QueryServiceKinds.h"
+
 #include <tools/dxmd/kinds/Envelope.h>
 #include <tools/dxmd/kinds/Families.h>
 
@@ -38,7 +40,7 @@ same bits. A model is of kind "bmeModel" when "bme" is true, else "Model".)";
 }  // namespace
 
 std::vector<Kind> queryServiceKinds() {
-  return {connectionKind()};
+  return {connectionKind(), dataSourceFaultKind(), parameterValueItemKind()};
 }
 
 }  // namespace dxmd_tool
