@@ -20,7 +20,8 @@ DXFeedbackEntry* DXActionFeedbackHelper::AddEntry(DXFeedbackEntry* parent, DXFee
 }
 
 void DXActionFeedbackHelper::Render(I18NString& out) {
-  for (TRNIDOM_Element entry : m_feedback.getElementsByTagName(STR_entry)) DXFeedbackEntry::Render(entry, STR_empty, out);
+  for (TRNIDOM_Element entry : m_feedback.getElementsByTagName(STR_entry))
+    DXFeedbackEntry::Render(entry, STR_empty, out);
 }
 
 void DXActionFeedbackHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const {
