@@ -104,13 +104,13 @@ TEST(ValidateKind, ContentIsCopiedInOrder) {
   expectXml("<validate><a>1</a><b/></validate>", bodyOf("validate", R"({"content": ["<a>1</a>", "<b/>"]})"));
 }
 
-TEST(ValidateResponseKind, SeverityAndTexts) {
+TEST(ValidateReplyKind, SeverityAndTexts) {
   EXPECT_EQ("{\n  \"severity\": \"warning\",\n  \"messages\": \"x\\ny\\n\"\n}\n",
-            run({"decode", "validateResponse"},
+            run({"decode", "validateReply"},
                 R"(<r><message severity="fatal">x</message><message severity="warning">y</message></r>)")
                 .out);
   EXPECT_EQ("{\n  \"severity\": \"none\",\n  \"messages\": \"\"\n}\n",
-            run({"decode", "validateResponse"}, "<response/>").out);
+            run({"decode", "validateReply"}, "<response/>").out);
 }
 
 TEST(ResponseKind, PartsThatAreThere) {

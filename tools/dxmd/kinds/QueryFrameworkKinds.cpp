@@ -45,7 +45,7 @@ TRNIDOM_Element encodeValidate(JsonObject& json, const KindOptions&) {
   return element;
 }
 
-Decoded decodeValidateResponse(TRNIDOM_Element& root, const KindOptions&) {
+Decoded decodeValidateReply(TRNIDOM_Element& root, const KindOptions&) {
   TRNSeverity severity = kSeverityNone;
   I18NString messages;
   QFValidateCommandHelper().CheckReponse(root, severity, messages);
@@ -104,15 +104,15 @@ Kind validateKind() {
   return kind;
 }
 
-Kind validateResponseKind() {
+Kind validateReplyKind() {
   Kind kind;
-  kind.name = "validateResponse";
+  kind.name = "validateReply";
   kind.summary = "Reply to a validate command: severity and messages";
   kind.notes = R"("severity" is what the messages make of it one after the other: a warning after a fatal message
 lowers it, and so does information after any other.)";
   kind.roots = {"response"};
   kind.orHolding = {"message"};
-  kind.decode = decodeValidateResponse;
+  kind.decode = decodeValidateReply;
   kind.example = R"(<response><message severity="warning">Item is not used</message>)"
                  R"(<message severity="error">Item is unknown</message></response>)";
   return kind;
@@ -121,7 +121,7 @@ lowers it, and so does information after any other.)";
 }  // namespace
 
 std::vector<Kind> queryFrameworkKinds() {
-  return {executeKind(), responseKind(), closeConnectionsKind(), validateKind(), validateResponseKind(), updateKind()};
+  return {executeKind(), responseKind(), closeConnectionsKind(), validateKind(), validateReplyKind(), updateKind()};
 }
 
 }  // namespace dxmd_tool
