@@ -97,6 +97,15 @@ TEST(QsDataSourceFaultHelper, ConnectionStringLandsInTheSearchPath) {
   EXPECT_EQ("", empty->GetFaultConnection()->searchPath);
 }
 
+TEST(QsDataSourceFaultHelper, WhatARecordLacksIsTakenFromTheRecordsInIt) {
+  const auto helper = taken<QsDataSourceFaultHelper>(
+      R"(<f><dataSource><connection><signon><name value="s"/><searchPath value="p"/></signon></connection></dataSource></f>)");
+  DataSourceInfo info;
+  EXPECT_TRUE(helper->GetDataSourceInfo("s", info));
+  EXPECT_EQ("s;", connectionsOf(info));
+  EXPECT_EQ("p", info.connections[0]->searchPath);
+}
+
 TEST(QsDataSourceFaultHelper, DescribesTheDataSourceOfThatName) {
   const auto helper = taken<QsDataSourceFaultHelper>(
       R"(<f><dataSource><name value="other"/><type value="t0"/><connection/></dataSource>)"

@@ -1,6 +1,8 @@
-#include <set>
 #include <utility>
 
+#include <trnidom/TRNIDOM_DOMImplementation.h>
+#include <trnidom/TRNIDOM_Document.h>
+#include <trnidom/TRNIDOM_DocumentType.h>
 #include <trnidom/TRNIDOM_Helper.h>
 #include <trnidom/TRNIDOM_NodeList.h>
 
@@ -51,15 +53,19 @@ Decoded decodeDataSourceFault(TRNIDOM_Element& root, const KindOptions&) {
   if (const auto* connection = fault.GetFaultConnection()) json["faultConnection"] = connectionJson(*connection);
   if (const auto* signon = fault.GetFaultSignon()) json["faultSignon"] = signonJson(*signon);
 
-  // The reader describes a data source that it is asked for by name; all that bear the name are described as one.
   Json dataSources = Json::array();
-  std::set<I18NString> described;
+  TRNIDOM_Document scratch =
+      TRNIDOM_DOMImplementation::getInstance().createDocument("", "fault", TRNIDOM_DocumentType());
   for (const TRNIDOM_Node& dataSource : root.getElementsByTagName("dataSource")) {
-    const TRNIDOM_Element nameElement = TRNIDOM_Helper::findFirstElement(dataSource, "name");
-    const I18NString name = nameElement.getAttribute("value");
-    if (nameElement.isNull() || !described.insert(name).second) continue;
+    const TRNIDOM_Element name = TRNIDOM_Helper::findFirstElement(dataSource, "name");
+    if (name.isNull()) continue;
+    // The reader goes through all data sources for the one it is asked for, and describes those of one name as one. A
+    // fault with this one alone is read at once and gives this one.
+    TRNIDOM_Element alone = scratch.createElement("fault");
+    alone.appendChild(scratch.importNode(dataSource, true));
+    fault.Take(alone);
     QsDataSourceFaultHelper::DataSourceInfo info;
-    fault.GetDataSourceInfo(name, info);
+    fault.GetDataSourceInfo(name.getAttribute("value"), info);
     dataSources.push_back(dataSourceJson(info));
   }
   putUnlessEmpty(json, "dataSources", std::move(dataSources));
@@ -73,8 +79,8 @@ Kind dataSourceFaultKind() {
   kind.name = "dataSourceFault";
   kind.summary = "Fault that the query service reports about a data source";
   kind.notes =
-      R"("searchPath" is a connection's connection string where the fault gives one. Data sources of one
-name are described as one; those without a name are left out.)";
+      R"("searchPath" is a connection's connection string where the fault gives one. Data sources without
+a name are left out.)";
   kind.roots = {"fault"};
   kind.orHolding = {"faultcode", "faultstring", "faultDataSource", "faultConnection", "faultSignon", "dataSource"};
   kind.decode = decodeDataSourceFault;
