@@ -1,0 +1,75 @@
+#include <gtest/gtest.h>
+
+#include "RunTool.h"
+#include "TestSupport.h"
+
+using namespace dxmd_test;
+using namespace dxmd_tool;
+
+TEST(DefinitionFileKind, TakesTheLinesOfATextFile) {
+  const TempFolder folder;
+  const std::string path = folder.add("q.def", "\xEF\xBB\xBF[Query]\r\n\ntitle = \xC3\xA9\r\n\n a\rb ");
+  expectXml("<file><filePath>" + path +
+                "</filePath><contents><line>[Query]</line><line/><line>title = \xC3\xA9</line><line> a&#13;b </line>"
+                "</contents></file>\n",
+            run({"encode", "definitionFile", "--from", path}).out);
+}
+
+TEST(DefinitionFileKind, TheRestOfAFileFromTextComesFromJson) {
+  const TempFolder folder;
+  const std::string path = folder.add("q.def", "a\n");
+  const std::string json = folder.add("q.json", R"({"filePath": "/p", "cmDataSource": "ds"})");
+  expectXml("<file><filePath>/p</filePath><contents><line>a</line></contents><cmDataSource>ds</cmDataSource></file>\n",
+            run({"encode", "definitionFile", "--from", path, json}).out);
+  const std::string both = folder.add("both.json", R"({"contents": ["b"]})");
+  expectFailure(kStatusUnfit,
+                both + R"(: $: unknown key "contents"; known are "filePath", "dbConnectionName", "cmDataSource")",
+                run({"encode", "definitionFile", "--from", path, both}));
+}
+
+TEST(DefinitionFileKind, FilesWithoutLinesOrInAnotherEncodingAreRefused) {
+  const TempFolder folder;
+  const std::string empty = folder.add("empty", "");
+  expectFailure(kStatusUnfit, empty + ": must not be empty", run({"encode", "definitionFile", "--from", empty}));
+  const std::string latin = folder.add("latin", "ok\n\xE9t\xE9\n");
+  expectFailure(kStatusUnfit, latin + ":2: not UTF-8", run({"encode", "definitionFile", "--from", latin}));
+  expectFailure(kStatusUnfit, "standard input: $.contents: must not be empty",
+                run({"encode", "definitionFile"}, R"({"contents": []})"));
+}
+
+TEST(ObjectAccessKind, PrincipalsListedTwiceGetTheStrongerRule) {
+  const std::string xml = run({"encode", "objectAccess"}, R"({"securityObjects": [{"cmSearchPath": "u", "rule": "deny"},
+    {"cmSearchPath": "v", "rule": "unspecified"}, {"cmSearchPath": "u", "rule": "allow"}]})")
+                              .out;
+  EXPECT_EQ(R"({"securityObjects":[{"cmSearchPath":"u","rule":"deny"},{"cmSearchPath":"v","rule":"unspecified"}]})"
+            "\n",
+            run({"decode", "objectAccess", "--indent", "0"}, xml).out);
+  expectFailure(kStatusUnfit,
+                R"(standard input: $.securityObjects[0].rule: "Deny" is none of "unspecified", "allow", "deny")",
+                run({"encode", "objectAccess"}, R"({"securityObjects": [{"cmSearchPath": "u", "rule": "Deny"}]})"));
+}
+
+TEST(SecurityObjectsKind, PackagesComeFromNestedViewsOnly) {
+  const std::string written = run({"encode", "securityObjects"}, R"({"securityObjects": [{"cmSearchPath": "u",
+    "views": [{"viewref": "v", "packagerefs": ["p"]}]}]})")
+                                  .out;
+  EXPECT_EQ(R"({"securityObjects":[{"cmSearchPath":"u","views":[{"viewref":"v"}]}]})"
+            "\n",
+            run({"decode", "securityObjects", "--indent", "0"}, written).out);
+  EXPECT_EQ(
+      R"({"securityObjects":[{"cmSearchPath":"u","views":[{"viewref":"v","packagerefs":["p"]},{"viewref":"w"}]}]})"
+      "\n",
+      run({"decode", "securityObjects", "--indent", "0"},
+          "<securityObjects><securityObject cmSearchPath='u'><view><viewref>v</viewref><view>p<viewref>w</viewref>"
+          "</view></view></securityObject></securityObjects>")
+          .out);
+}
+
+TEST(ExternalizeReportKind, PathsComeFromFileElementsOnly) {
+  EXPECT_EQ(R"({"entries":[{"objectID":"o","method":"tab","path":"/b"}]})"
+            "\n",
+            run({"decode", "externalizeReport", "--indent", "0"},
+                "<externalizeReport><entry objectID='o' method='tab' path='/no' error='no'><file path='/b'/></entry>"
+                "</externalizeReport>")
+                .out);
+}
