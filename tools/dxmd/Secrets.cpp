@@ -14,6 +14,10 @@ namespace dxmd_tool {
 namespace {
 
 const char* const kMask = "***";
+const char* const kConnectionString = "connectionString";
+
+constexpr std::initializer_list<const char*> kSecretNames = {"password", "passport", "ticket"};
+constexpr std::initializer_list<const char*> kSecretParameters = {"password", "passport", "ticket", "pwd"};
 
 std::string lowerCase(std::string_view text) {
   std::string lower(text);
@@ -32,26 +36,64 @@ bool isListed(const std::vector<std::string>& names, std::string_view name) {
   return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-/// Hides what one element of XML says under the name of a secret.
-void maskElement(TRNIDOM_Element element) {
-  const bool secret =
-      isSecretName(element.getNodeName().toUtf8()) || isSecretName(element.getAttribute("name").toUtf8());
-  for (TRNIDOM_Node attribute : element.getAttributes()) {
-    const std::string name = attribute.getNodeName().toUtf8();
-    if (isSecretName(name) || (secret && name != "name")) attribute.setNodeValue(kMask);
+/// Walks a tree of XML and hides what it says under the names of secrets. Trees may be of any depth.
+class XmlMasker {
+ public:
+  void visitAll(const TRNIDOM_Node& root) {
+    TRNIDOM_Node node = root;
+    while (true) {
+      visit(node);
+      if (node.hasChildNodes()) {
+        node = node.getFirstChild();
+        continue;
+      }
+      while (node != root && node.getNextSibling().isNull()) {
+        leave(node);
+        node = node.getParentNode();
+      }
+      if (node == root) return;
+      leave(node);
+      node = node.getNextSibling();
+    }
   }
-  if (!secret) return;
-  for (TRNIDOM_Node child = element.getFirstChild(); !child.isNull(); child = child.getNextSibling())
-    if (child.getNodeType() != TRNIDOM_Node::ELEMENT_NODE) child.setNodeValue(kMask);
-}
+
+ private:
+  void visit(TRNIDOM_Node& node) {
+    if (node.getNodeType() == TRNIDOM_Node::ELEMENT_NODE) {
+      if (m_secret.isNull() && isSecretElement(node)) m_secret = node;
+      for (TRNIDOM_Node attribute : node.getAttributes()) visitAttribute(attribute);
+    } else if (!m_secret.isNull()) {
+      node.setNodeValue(kMask);
+    } else if (node.getParentNode().getNodeName() == I18NString(kConnectionString)) {
+      node.setNodeValue(maskedConnectionString(node.getNodeValue().toUtf8()).c_str());
+    }
+  }
+
+  void visitAttribute(TRNIDOM_Node& attribute) const {
+    const std::string name = attribute.getNodeName().toUtf8();
+    if (isSecretName(name) || (!m_secret.isNull() && name != "name"))
+      attribute.setNodeValue(kMask);
+    else if (name == kConnectionString)
+      attribute.setNodeValue(maskedConnectionString(attribute.getNodeValue().toUtf8()).c_str());
+  }
+
+  void leave(const TRNIDOM_Node& node) {
+    if (node == m_secret) m_secret = TRNIDOM_Node();
+  }
+
+  static bool isSecretElement(const TRNIDOM_Element& element) {
+    return isSecretName(element.getNodeName().toUtf8()) || isSecretName(element.getAttribute("name").toUtf8());
+  }
+
+  TRNIDOM_Node m_secret;  ///< the secret element that the walk is in, or null
+};
 
 std::string maskedXml(const std::string& text) {
-  if (!isSecretName(text)) return text;
+  if (!holdsOneOf(text, kSecretParameters)) return text;
   try {
-    TRNIDOM_Element root = TRNIDOM_Parser::parseString(text).getDocumentElement();
-    maskElement(root);
-    for (const TRNIDOM_Node& element : root.getElementsByTagName("*")) maskElement(element);
-    return TRNIDOM_Writer::toString(root);
+    const TRNIDOM_Document document = TRNIDOM_Parser::parseString(text);
+    XmlMasker().visitAll(document);
+    return TRNIDOM_Writer::toString(document);
   } catch (const TRNIDOM_ParseError&) {
     return kMask;
   }
@@ -75,10 +117,10 @@ class Masker {
       std::string& text = json.get_ref<std::string&>();
       if (secret)
         text = text.empty() ? "" : kMask;
-      else if (isConnectionString(key))
-        text = maskedConnectionString(text);
       else if (text.compare(0, 1, "<") == 0)
         text = maskedXml(text);
+      else if (isConnectionString(key))
+        text = maskedConnectionString(text);
     } else if (secret && !json.is_null()) {
       json = kMask;
     }
@@ -87,7 +129,7 @@ class Masker {
  private:
   bool isSecret(std::string_view key) const { return isSecretName(key) || isListed(m_kind.secrets, key); }
   bool isConnectionString(std::string_view key) const {
-    return key == "connectionString" || isListed(m_kind.connectionStrings, key);
+    return key == kConnectionString || isListed(m_kind.connectionStrings, key);
   }
 
   const Kind& m_kind;
@@ -96,7 +138,7 @@ class Masker {
 }  // namespace
 
 bool isSecretName(std::string_view name) {
-  return holdsOneOf(name, {"password", "passport", "ticket"});
+  return holdsOneOf(name, kSecretNames);
 }
 
 std::string maskedConnectionString(const std::string& text) {
@@ -105,8 +147,7 @@ std::string maskedConnectionString(const std::string& text) {
   while (at < text.size()) {
     const std::size_t end = std::min(text.find(';', at), text.size());
     const std::size_t equals = text.find('=', at);
-    if (equals >= end ||
-        !holdsOneOf(std::string_view(text).substr(at, equals - at), {"password", "passport", "ticket", "pwd"})) {
+    if (equals >= end || !holdsOneOf(std::string_view(text).substr(at, equals - at), kSecretParameters)) {
       masked += text.substr(at, end - at + 1);
       at = end + 1;
       continue;

@@ -12,7 +12,7 @@
 // A value is a secret when its key, or the key of something around it, is the name of one: a name in which "password",
 // "passport" or "ticket" occurs, in whatever case, or one that the kind declares. So is the "value" of an object whose
 // "name" is such a name. In a connection string the values of the parameters that are named so, or "pwd", are hidden;
-// in a text of XML, the elements and attributes of such names.
+// in a text of XML, the elements and attributes of such names, and all below such elements.
 
 namespace dxmd_tool {
 

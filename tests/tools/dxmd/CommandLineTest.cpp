@@ -65,7 +65,7 @@ TEST(CommandLine, HelpListsStatusesKindsAndNotes) {
   EXPECT_TRUE(has(run({"encode", "--help"}).out, "closeConnections"));
   EXPECT_TRUE(has(run({"decode", "response", "--help"}).out, "--format"));
   EXPECT_TRUE(has(run({"kinds", "response"}).out, "--format"));
-  EXPECT_EQ("dxmd 1.0.0\n", run({"--version"}).out);
+  EXPECT_EQ("dxmd " DXMD_VERSION "\n", run({"--version"}).out);
 }
 
 TEST(CommandLine, KindsAreListedOnALineEach) {

@@ -45,6 +45,10 @@ TEST(Secrets, ConnectionStringsKeepAllButPasswords) {
 TEST(Secrets, TextsOfXmlAreSearchedToo) {
   EXPECT_EQ(R"({"e":"<a password=\"***\"><password>***</password><p name=\"password\" value=\"***\"/><b>t</b></a>"})",
             masked(R"({"e":"<a password='p'><password>p</password><p name='password' value='p'/><b>t</b></a>"})"));
+  EXPECT_EQ(R"({"e":"<a><ticket><b c=\"***\">***</b><!--***--></ticket><b>t</b></a>"})",
+            masked(R"({"e":"<a><ticket><b c='t'>t</b><!--t--></ticket><b>t</b></a>"})"));
+  EXPECT_EQ(R"({"e":"<a connectionString=\"pwd=***\"><connectionString>pwd=***;x</connectionString></a>"})",
+            masked(R"({"e":"<a connectionString='pwd=p'><connectionString>pwd=p;x</connectionString></a>"})"));
   EXPECT_EQ(R"({"e":"***"})", masked(R"({"e":"<password>p"})"));
   EXPECT_EQ(R"({"e":"<a  b='c'/>"})", masked(R"({"e":"<a  b='c'/>"})"));
 }
