@@ -15,6 +15,7 @@
 /// Nothing is read. A helper is used by one thread at a time.
 class DXMD_API VqeQuerySubjectHelper : public QFDXCommandHelper {
  public:
+  /// @param modelPath   the model that the query subject is defined in.
   /// @param definition  copied at each `Make`; until then the helper keeps a handle to it.
   VqeQuerySubjectHelper(const I18NString& modelPath, TRNIDOM_Element& definition);
   ~VqeQuerySubjectHelper() override;

@@ -19,7 +19,8 @@ class DXMD_API QFValidateCommandHelper : public QFCommandHelper {
   QFValidateCommandHelper();
   ~QFValidateCommandHelper() override;
 
-  /// Judges the messages of a response, at any depth.
+  /// Judges the messages of a response.
+  /// @param response  holds messages at any depth; may be null.
   /// @param severity  becomes `kSeverityNone`, then what the messages make of it one after the other: "fatal" and
   ///                  "information" always set it, "error" except after a fatal, "warning" except after an error. So
   ///                  the last word is not always the most severe one.

@@ -1,7 +1,5 @@
 #include <dxmd/queryengine/VqeExpandParameterHelper.h>
 
-#include <trn/I18NLocale.h>
-
 #include <dxmd/queryengine/VqeCancelQueryHelper.h>
 
 #include "TestSupport.h"
@@ -31,30 +29,11 @@ TEST(VqeCancelQueryHelper, NamesTheDefaultRequestUnderIdentifiersOfItsOwn) {
             made(command));
 }
 
-TEST(VqeCancelQueryHelper, OwnRequestCanBeRenamedWithoutChangingTheOneCancelled) {
-  VqeCancelQueryHelper command;
-  command.SetProperty(QFCommandHelper::kPropertyRequestID, "mine");
-  EXPECT_NE(std::string::npos, made(command).find(R"(<cancel><requestID value="DXRequest"/></cancel>)"));
-  EXPECT_NE(std::string::npos, made(command).find(R"(<requestID value="mine"/></command>)"));
-}
-
 TEST(VqeExpandParameterHelper, WritesTheExpressionAlsoWhenEmpty) {
   VqeExpandParameterHelper command("m");
   expectXml(inDXEnvelope("<expand><expression/></expand>"), made(command));
   command.SetParameterisedValue("?p? < 1");
   expectXml(inDXEnvelope("<expand><expression>?p? &lt; 1</expression></expand>"), made(command));
-}
-
-TEST(VqeExpandParameterHelper, CarriesLocaleFeedbacksAndConnection) {
-  VqeExpandParameterHelper command("m");
-  const I18NLocale locale("de-ch");
-  TRNIDOM_Element connection = parsed("<connection/>");
-  command.SetQueryLocale(&locale);
-  command.AddQueryFeedback(QFExecuteCommandHelper::kQueryFeedbackNativeCommandText);
-  command.SetConnection(connection);
-  const std::string xml = made(command);
-  EXPECT_NE(std::string::npos, xml.find(R"(<connection/><dxCommand queryLocale="de-ch"><source>)"));
-  EXPECT_NE(std::string::npos, xml.find(R"(</expand><queryFeedback><property name="nativeCommandText"/>)"));
 }
 
 TEST(VqeExpandParameterHelper, GivesTheFirstTextOfTheOnlyResult) {
