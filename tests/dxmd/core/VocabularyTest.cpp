@@ -2,7 +2,6 @@
 
 #include <array>
 #include <atomic>
-#include <cstdlib>
 #include <set>
 #include <thread>
 #include <utility>
@@ -10,8 +9,6 @@
 
 #include <gtest/gtest.h>
 #include <trn/I18NString.h>
-
-#include "FailingNew.h"
 
 using dxmd_actionhelper_resources::getString;
 
@@ -35,20 +32,6 @@ TEST(Vocabulary, ConcurrentFirstCallsGetTheSameObject) {
     });
   for (std::thread& thread : threads) thread.join();
   for (const std::vector<const I18NString*>& others : seen) EXPECT_EQ(seen[0], others);
-}
-
-// In a process of its own, for the same reason.
-TEST(VocabularyDeathTest, AnEntryThatCouldNotBeBuiltIsBuiltByALaterCall) {
-  GTEST_FLAG_SET(death_test_style, "threadsafe");
-  const auto build = [] {
-    int calls = 0;
-    dxmd_test::withEachNewFailing([&] {
-      ++calls;
-      getString(224);
-    });
-    std::_Exit(calls == 2 && getString(224) == "requestDoc" ? 0 : 1);
-  };
-  EXPECT_EXIT(build(), testing::ExitedWithCode(0), "");
 }
 
 TEST(Vocabulary, EveryEntryIsATextOfItsOwnAndAlwaysTheSameObject) {
