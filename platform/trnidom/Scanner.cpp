@@ -20,7 +20,8 @@ class Scanner final : public xercesc::WFXMLScanner {
   /// The scanner would skip it. "<!DOCTYPE" has been read by now.
   void scanDocTypeDecl() override {
     const XMLFileLoc length = xercesc::XMLString::stringLen(xercesc::XMLUni::fgDocTypeString);
-    throw TRNIDOM_ParseError(getLocator()->getLineNumber(), getLocator()->getColumnNumber() - length, kDoctypeRefused);
+    throw TRNIDOM_ParseError(static_cast<std::size_t>(getLocator()->getLineNumber()),
+                             static_cast<std::size_t>(getLocator()->getColumnNumber() - length), kDoctypeRefused);
   }
 };
 

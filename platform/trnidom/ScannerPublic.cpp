@@ -28,7 +28,8 @@ class Parser final : public xercesc::SAXParser {
 
   void doctypeDecl(const xercesc::DTDElementDecl&, const XMLCh* const, const XMLCh* const, const bool,
                    const bool) override {
-    throw TRNIDOM_ParseError(m_place.locator->getLineNumber(), m_place.locator->getColumnNumber(), kDoctypeRefused);
+    throw TRNIDOM_ParseError(static_cast<std::size_t>(m_place.locator->getLineNumber()),
+                             static_cast<std::size_t>(m_place.locator->getColumnNumber()), kDoctypeRefused);
   }
 
   void error(const unsigned int code, const XMLCh* const domain, const XMLErrorReporter::ErrTypes type,
