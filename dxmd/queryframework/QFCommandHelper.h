@@ -18,7 +18,7 @@
 class DXMD_API QFCommandHelper : public ActionHandlerBase {
  public:
   /// The identifiers of a command.
-  enum EProperty { kPropertyCommandID = 1, kPropertyRequestID = 2 };
+  enum EProperty : int { kPropertyCommandID = 1, kPropertyRequestID = 2 };
 
   /// A command without a model path.
   QFCommandHelper();

@@ -26,14 +26,14 @@
 class DXMD_API QFExecuteCommandHelper : public QFCommandHelper {
  public:
   /// The values of the hint "executionOptimization".
-  enum EQueryOptimization {
+  enum EQueryOptimization : int {
     kQueryOptimizationFirstRow = 1,
     kQueryOptimizationAllRows = 2,
     kQueryOptimizationIncremental = 3
   };
 
   /// What the service can report about a query; 0 is none of them.
-  enum EQueryFeedback {
+  enum EQueryFeedback : int {
     kQueryFeedbackUnknown = 0,
     kQueryFeedbackNativeCommandText = 1,
     kQueryFeedbackVeltraCommandText = 2,
@@ -44,7 +44,7 @@ class DXMD_API QFExecuteCommandHelper : public QFCommandHelper {
   };
 
   /// The quality-of-service severity from which feedback is wanted; 0 is unset and writes no attribute.
-  enum EQOSSeverity {
+  enum EQOSSeverity : int {
     kQOSSeverityUnset = 0,
     kQOSSeverityError = 1,
     kQOSSeverityWarning = 2,
@@ -53,7 +53,7 @@ class DXMD_API QFExecuteCommandHelper : public QFCommandHelper {
   };
 
   /// Hints for the whole request; any other value writes nothing.
-  enum ERequestHint {
+  enum ERequestHint : int {
     kRequestHintNoDataMode = 1,
     kRequestHintDesignMode = 2,
     kRequestHintExecutionOptimization = 3,
@@ -65,7 +65,9 @@ class DXMD_API QFExecuteCommandHelper : public QFCommandHelper {
   static const I18NString STR_listResult;
   static const I18NString STR_details;
 
-  /// @param locale  the expression locale; may be null. The caller keeps it alive until the last `Make` has returned.
+  /// @param modelPath  the model that the queries read from.
+  /// @param locale     the expression locale; may be null. The caller keeps it alive until the last `Make` has
+  /// returned.
   QFExecuteCommandHelper(const I18NString& modelPath, const I18NLocale* locale);
   ~QFExecuteCommandHelper() override;
 

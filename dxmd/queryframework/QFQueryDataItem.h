@@ -8,7 +8,7 @@
 /// One data item of a query's selection. The caller completes the record that `QFQueryHelper::AddDataItem` returns.
 struct DXMD_API QFQueryDataItem {
   /// How values are aggregated; 0 is unset and writes no attribute.
-  enum EAggregate {
+  enum EAggregate : int {
     kAggregateUnknown = 0,
     kAggregateNone = 1,
     kAggregateAutomatic = 2,
@@ -22,7 +22,7 @@ struct DXMD_API QFQueryDataItem {
   };
 
   /// How rows are sorted; 0 is unset and writes no attribute.
-  enum ESort { kSortUnknown = 0, kSortNone = 1, kSortAscending = 2, kSortDescending = 3 };
+  enum ESort : int { kSortUnknown = 0, kSortNone = 1, kSortAscending = 2, kSortDescending = 3 };
 
   /// The XML texts; "unknown" for any value without one.
   static const I18NString& ToString(EAggregate aggregate);

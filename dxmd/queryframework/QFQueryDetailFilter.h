@@ -8,7 +8,7 @@
 /// One detail filter of a query.
 struct DXMD_API QFQueryDetailFilter {
   /// Whether the filter applies.
-  enum EUse { kUseUnknown = 0, kUseOptional = 1, kUseRequired = 2, kUseProhibited = 3 };
+  enum EUse : int { kUseUnknown = 0, kUseOptional = 1, kUseRequired = 2, kUseProhibited = 3 };
 
   /// The XML text; "unknown" for any value without one.
   static const I18NString& ToString(EUse use);

@@ -21,7 +21,7 @@
 class DXMD_API QFQueryHelper : public ActionHandlerBase {
  public:
   /// Advice to the query engine. Every query carries "avoidZeroDiv" = "true" unless the caller overwrites it.
-  enum EQueryHint {
+  enum EQueryHint : int {
     kQueryHintAvoidZeroDiv = 1,
     kQueryHintAutoSort = 2,
     kQueryHintMeasureRefiner = 3,

@@ -27,7 +27,7 @@ class DXMD_API QFResponseDomHelper : public ActionHandlerBase {
   };
 
   /// The properties of a column.
-  enum EColumnProp {
+  enum EColumnProp : int {
     kColumnPropName = 1,
     kColumnPropSqlName = 2,
     kColumnPropType = 3,

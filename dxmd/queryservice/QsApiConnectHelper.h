@@ -49,7 +49,7 @@ class DXMD_API QsApiConnectHelper : public ActionHandlerBase {
   void SetDisableAuthentication(bool disable);
   void SetProviderType(const I18NString& type);
 
-  /// Appends a model. @param bme  whether it is of kind "bmeModel" rather than "Model".
+  /// Appends a model: of kind "bmeModel" when `bme`, else "Model".
   void AddModel(const I18NString& name, bool bme);
 
   /// The identifier of the service this library speaks for: "DX".

@@ -18,10 +18,10 @@
 class DXMD_API QsParamValueItemHelper : public ActionHandlerBase {
  public:
   /// The kinds of items.
-  enum EValueItem { kValueItemSimple = 1, kValueItemRange = 2, kValueItemHierarchy = 3, kValueItemNull = 4 };
+  enum EValueItem : int { kValueItemSimple = 1, kValueItemRange = 2, kValueItemHierarchy = 3, kValueItemNull = 4 };
 
   /// The kinds of items on the wire, where a range goes by the bounds it has.
-  enum ETarvoItemType {
+  enum ETarvoItemType : int {
     kTarvoItemUnknown = 0,
     kTarvoItemSimple = 1,
     kTarvoItemBoundRange = 2,

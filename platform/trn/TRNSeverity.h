@@ -2,7 +2,7 @@
 #define TRN_TRNSEVERITY_H
 
 /// How serious a message is; the smaller value is the more serious one.
-enum TRNSeverity {
+enum TRNSeverity : int {
   kSeverityFatal = 0,
   kSeverityError = 1,
   kSeverityWarning = 2,

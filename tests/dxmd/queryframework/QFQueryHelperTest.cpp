@@ -1,0 +1,122 @@
+#include <dxmd/queryframework/QFQueryHelper.h>
+
+#include <trnidom/TRNIDOM_Helper.h>
+
+#include <dxmd/queryframework/QFJoinQueryHelper.h>
+#include <dxmd/queryframework/QFModelSetQueryHelper.h>
+
+#include "TestSupport.h"
+
+using namespace dxmd_test;
+
+namespace {
+
+std::string sourceOf(const QFQueryHelper& query) {
+  return xmlOf(TRNIDOM_Helper::findChildElement(madeElement(query), "source"));
+}
+
+std::vector<std::string> namesAfterAdding(std::initializer_list<const char*> names) {
+  QFQueryHelper query("q");
+  for (const char* name : names) query.AddDataItem(name, "");
+  std::vector<std::string> result;
+  for (const QFQueryDataItem* item : query.GetDataItems()) result.push_back(item->name.toUtf8());
+  return result;
+}
+
+using Names = std::vector<std::string>;
+
+}  // namespace
+
+TEST(QFQueryHelper, NewQueryReadsTheModelAndAvoidsZeroDivision) {
+  expectXml(R"(<query name="Q"><source><model/></source><selection autoSummary="false"/>)"
+            R"(<queryHints><avoidZeroDiv value="true"/></queryHints></query>)",
+            made(QFQueryHelper("Q")));
+}
+
+TEST(QFQueryHelper, WritesItemsFiltersAndHintsAsGiven) {
+  QFQueryHelper query("Q");
+  query.SetAutoSummary(-1);
+  query.SetQueryRef("Other");
+  QFQueryDataItem* full = query.AddDataItem("full", "[x]");
+  full->tag = "t";
+  full->sort = QFQueryDataItem::kSortDescending;
+  full->aggregate = QFQueryDataItem::kAggregateTotal;
+  full->rollupAggregate = static_cast<QFQueryDataItem::EAggregate>(10);
+  query.AddDataItem("bare", "");
+  query.AddDetailFilter("[x] > 1", QFQueryDetailFilter::kUseRequired);
+  query.AddDetailFilter("[x] > 1", QFQueryDetailFilter::kUseUnknown);
+  query.AddHint(QFQueryHelper::kQueryHintMaxRowsRetrieved, "10");
+  query.AddHint(QFQueryHelper::kQueryHintAvoidZeroDiv, "false");
+  const std::string expected =
+      R"(<query name="Q"><source><queryRef refQuery="Other"/></source><selection autoSummary="true">)"
+      R"(<dataItem aggregate="total" name="full" rollupAggregate="unknown" sort="descending">)"
+      R"(<expression>[x]</expression><tag>t</tag></dataItem>)"
+      R"(<dataItem name="bare"><expression/></dataItem></selection>)"
+      R"(<detailFilter><filter use="required"><filterExpression>[x] &gt; 1</filterExpression></filter>)"
+      R"(<filter use="unknown"><filterExpression>[x] &gt; 1</filterExpression></filter></detailFilter>)"
+      R"(<queryHints><avoidZeroDiv value="false"/><maxRowsRetrieved value="10"/></queryHints></query>)";
+  expectXml(expected, made(query));
+  expectXml(expected, made(query));
+}
+
+TEST(QFQueryHelper, EveryEnumeratorHasItsText) {
+  const auto text = [](auto value) { return QFQueryDataItem::ToString(value).toUtf8(); };
+  const char* aggregates[] = {"unknown", "none",    "automatic", "summarize",  "total",  "minimum",
+                              "maximum", "average", "count",     "calculated", "unknown"};
+  for (int i = 0; i <= 10; ++i) EXPECT_EQ(aggregates[i], text(static_cast<QFQueryDataItem::EAggregate>(i)));
+  const char* sorts[] = {"unknown", "none", "ascending", "descending", "unknown"};
+  for (int i = 0; i <= 4; ++i) EXPECT_EQ(sorts[i], text(static_cast<QFQueryDataItem::ESort>(i)));
+  const char* uses[] = {"unknown", "optional", "required", "prohibited", "unknown"};
+  for (int i = 0; i <= 4; ++i)
+    EXPECT_EQ(uses[i], QFQueryDetailFilter::ToString(static_cast<QFQueryDetailFilter::EUse>(i)).toUtf8());
+  const char* hints[] = {"unknown", "avoidZeroDiv", "autoSort", "measureRefiner", "maxRowsRetrieved", "unknown"};
+  for (int i = 0; i <= 5; ++i)
+    EXPECT_EQ(hints[i], QFQueryHelper::ToString(static_cast<QFQueryHelper::EQueryHint>(i)).toUtf8());
+}
+
+TEST(MakeUnique, CountsUpFromTheGivenName) {
+  EXPECT_EQ(Names({"total", "total1", "total2"}), namesAfterAdding({"total", "total", "total"}));
+  EXPECT_EQ(Names({"a", "a1", "a2"}), namesAfterAdding({"a", "a1", "a"}));
+  EXPECT_EQ(Names({"", "1"}), namesAfterAdding({"", ""}));
+}
+
+TEST(MakeUnique, GivesUpAfterAsManyAttemptsAsThereAreItems) {
+  QFQueryDataItem first;
+  QFQueryDataItem second;
+  first.name = "a";
+  second.name = "a1";
+  std::vector<QFQueryDataItem*> items{&first, &second};
+  I18NString result;
+  MakeUnique(items, "a", result);
+  EXPECT_EQ("a2", result);
+  second.name = "a2";
+  first.name = "a1";
+  items = {&first};
+  MakeUnique(items, "a1", result);
+  EXPECT_EQ("a11", result);
+}
+
+TEST(MakeUnique, SeesNamesThatTheCallerChanged) {
+  QFQueryHelper query("q");
+  query.AddDataItem("a", "")->name = "b";
+  EXPECT_EQ("a", query.AddDataItem("a", "")->name);
+  EXPECT_EQ("b1", query.AddDataItem("b", "")->name);
+}
+
+TEST(QFJoinQueryHelper, WritesTwoOperandsAlsoForEqualCardinalities) {
+  QFJoinQueryHelper query("J", "L", "1:N", "R", "1:N", "[L].[k] = [R].[k]");
+  query.SetQueryRef("not used");
+  expectXml(R"(<source><joinOperation><joinOperands>)"
+            R"(<joinOperand cardinality="1:N"><queryRef refQuery="L"/></joinOperand>)"
+            R"(<joinOperand cardinality="1:N"><queryRef refQuery="R"/></joinOperand></joinOperands>)"
+            R"(<joinFilter><filterExpression>[L].[k] = [R].[k]</filterExpression></joinFilter>)"
+            R"(</joinOperation></source>)",
+            sourceOf(query));
+}
+
+TEST(QFModelSetQueryHelper, RefersToFixedOperandsAndListsProjectionOnce) {
+  expectXml(R"(<source><queryOperation duplicates="remove" name="set" setOperation="UNION"><queryRefs>)"
+            R"(<queryRef refQuery="leftQuery"/><queryRef refQuery="rightQuery"/></queryRefs><projectionList>)"
+            R"(<queryItem name="b"/><queryItem name="a"/></projectionList></queryOperation></source>)",
+            sourceOf(QFModelSetQueryHelper("S", {"b", "a", "b"}, "UNION", "remove")));
+}
