@@ -12,6 +12,7 @@
 #include <vector>
 
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -140,6 +141,11 @@ int main(int argc, char** argv) {
     --argc;
     --i;
   }
+  // The C library would raise these thresholds once a large block is freed, and spare all later cases the page faults
+  // that the earlier ones had.
+  mallopt(M_MMAP_THRESHOLD, 128 * 1024);
+  mallopt(M_TRIM_THRESHOLD, 128 * 1024);
+
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
 
