@@ -1,9 +1,14 @@
 #include "Xerces.h"
 
+#include <cstddef>
+#include <new>
+
 #include <trnidom/TRNIDOM_DOMException.h>
 #include <xercesc/dom/DOMAttr.hpp>
+#include <xercesc/util/PanicHandler.hpp>
 #include <xercesc/util/PlatformUtils.hpp>
 #include <xercesc/util/XMLChar.hpp>
+#include <xercesc/util/XMLUni.hpp>
 
 #include "NodeOps.h"
 
@@ -32,14 +37,29 @@ std::string ofElement(const DOMNode* element) {
   return " of " + describe(element);
 }
 
+/// Xerces-C would end the process.
+struct Panic final : xercesc::PanicHandler {
+  void panic(const PanicReasons) override { throw std::bad_alloc(); }
+};
+
 }  // namespace
 
+// Xerces-C cannot be started again once memory ran out while it started, so that is made unlikely.
 void initializeXerces() {
-  static const bool done = [] {
-    xercesc::XMLPlatformUtils::Initialize();
-    return true;
+  static const bool started = [] {
+    constexpr std::size_t kNeeded = std::size_t{1} << 20;
+    ::operator delete(::operator new(kNeeded));
+    try {
+      static Panic panic;
+      xercesc::XMLPlatformUtils::Initialize(xercesc::XMLUni::fgXercescDefaultLocale, nullptr, &panic);
+      return true;
+    } catch (const std::bad_alloc&) {
+      return false;
+    } catch (const xercesc::OutOfMemoryException&) {
+      return false;
+    }
   }();
-  static_cast<void>(done);
+  if (!started) throw std::bad_alloc();
 }
 
 std::string describe(const DOMNode* node) {
