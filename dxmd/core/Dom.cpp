@@ -7,7 +7,7 @@
 namespace dxmd {
 
 TRNIDOM_Element appendElement(TRNIDOM_Element& parent, const I18NString& name) {
-  return parent.appendChild(parent.getOwnerDocument().createElement(name));
+  return TRNIDOM_Helper::appendElement(parent, name);
 }
 
 TRNIDOM_Element appendElement(TRNIDOM_Element& parent, const I18NString& name, const I18NString& attrName,
@@ -28,7 +28,7 @@ TRNIDOM_Element appendTextElement(TRNIDOM_Element& parent, const I18NString& nam
 }
 
 void appendText(TRNIDOM_Element& parent, const I18NString& text) {
-  parent.appendChild(parent.getOwnerDocument().createTextNode(text));
+  TRNIDOM_Helper::appendText(parent, text);
 }
 
 TRNIDOM_Node appendImported(TRNIDOM_Element& parent, const TRNIDOM_Node& node) {

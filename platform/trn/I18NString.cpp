@@ -27,6 +27,8 @@ namespace {
 using icu::UnicodeString;
 
 constexpr char16_t kReplacement = 0xFFFD;
+/// A text shorter than this fits inside ICU's object together with its NUL.
+constexpr std::size_t kShortLength = (UNISTR_OBJECT_SIZE - sizeof(void*) - 2) / sizeof(char16_t);
 constexpr std::size_t kMaxLength = std::numeric_limits<std::int32_t>::max() - 1;
 
 UnicodeString& icuText(unsigned char* storage) noexcept {
@@ -37,14 +39,39 @@ const UnicodeString& icuText(const unsigned char* storage) noexcept {
   return *std::launder(reinterpret_cast<const UnicodeString*>(storage));
 }
 
-/// Terminates a text whose characters are inside the object itself. Copies and moves are frequent enough for this to
-/// write the NUL itself; there is room, for the text had one where it came from.
-void terminateShort(UnicodeString& text) noexcept {
+/// Whether the characters of a text are inside the object itself.
+bool isInside(const UnicodeString& text) noexcept {
   const auto characters = reinterpret_cast<std::uintptr_t>(text.getBuffer());
-  if (characters - reinterpret_cast<std::uintptr_t>(&text) < sizeof text) {
-    const_cast<char16_t*>(text.getBuffer())[text.length()] = 0;
-  }
+  return characters - reinterpret_cast<std::uintptr_t>(&text) < sizeof text;
 }
+
+/// Terminates a text whose characters are inside the object itself. Copies are frequent enough for this to write the
+/// NUL itself; there is room, for the text had one where it came from.
+void terminateShort(UnicodeString& text) noexcept {
+  if (isInside(text)) const_cast<char16_t*>(text.getBuffer())[text.length()] = 0;
+}
+
+/// A text of each short length. Texts are made and moved by the hundred thousand when a document is read, and most are
+/// short, so this is done by the bytes: ICU's object has no pointer into itself and nobody knows its address.
+class ShortTexts {
+ public:
+  ShortTexts() {
+    for (std::size_t length = 0; length < kShortLength; ++length)
+      m_texts[length] = UnicodeString(0, u' ', static_cast<std::int32_t>(length));
+    m_begin = static_cast<std::size_t>(reinterpret_cast<const unsigned char*>(m_texts[1].getBuffer()) -
+                                       reinterpret_cast<const unsigned char*>(&m_texts[1]));
+  }
+
+  void make(unsigned char* storage, const char16_t* text, std::size_t length) const noexcept {
+    std::memcpy(storage, static_cast<const void*>(&m_texts[length]), sizeof(UnicodeString));
+    std::memcpy(storage + m_begin, text, length * sizeof(char16_t));
+    std::memset(storage + m_begin + length * sizeof(char16_t), 0, sizeof(char16_t));
+  }
+
+ private:
+  UnicodeString m_texts[kShortLength];
+  std::size_t m_begin;  // of the characters in the object
+};
 
 /// Makes the text that another was moved out of a proper empty one.
 void makeEmpty(UnicodeString& text) noexcept {
@@ -193,6 +220,7 @@ I18NString::I18NString(const char* text, const char* encoding, long length, Conv
 }
 
 I18NString I18NString::fromUtf16(const char16_t* text, std::size_t length) {
+  if (length < kShortLength) return I18NString(text, length, Short());
   I18NString result;
   UnicodeString& target = icuText(result.m_storage);
   char16_t* const buffer = openBuffer(target, length);
@@ -201,13 +229,18 @@ I18NString I18NString::fromUtf16(const char16_t* text, std::size_t length) {
   return result;
 }
 
+I18NString::I18NString(const char16_t* text, std::size_t length, Short) noexcept {
+  static const ShortTexts shortTexts;
+  shortTexts.make(m_storage, text, length);
+}
+
 I18NString::I18NString(const I18NString& other) {
   terminateShort(*new (m_storage) UnicodeString(icuText(other.m_storage)));
 }
 
 I18NString::I18NString(I18NString&& other) noexcept {
-  terminateShort(*new (m_storage) UnicodeString(std::move(icuText(other.m_storage))));
-  makeEmpty(icuText(other.m_storage));
+  std::memcpy(m_storage, other.m_storage, sizeof(UnicodeString));
+  terminateShort(*new (other.m_storage) UnicodeString);
 }
 
 I18NString& I18NString::operator=(const I18NString& other) {
@@ -226,7 +259,8 @@ I18NString& I18NString::operator=(I18NString&& other) noexcept {
 }
 
 I18NString::~I18NString() {
-  icuText(m_storage).~UnicodeString();
+  UnicodeString& text = icuText(m_storage);
+  if (!isInside(text)) text.~UnicodeString();  // otherwise it holds nothing
 }
 
 std::size_t I18NString::length() const noexcept {

@@ -69,6 +69,9 @@ class TRN_API I18NString {
   friend bool operator<(const I18NString& left, const I18NString& right) noexcept { return left.precedes(right); }
 
  private:
+  struct Short {};
+  I18NString(const char16_t* text, std::size_t length, Short) noexcept;
+
   bool equals(const I18NString& other) const noexcept;
   bool precedes(const I18NString& other) const noexcept;
 

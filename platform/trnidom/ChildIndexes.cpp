@@ -37,13 +37,13 @@ bool hasText(const DOMNode* element, Text text) {
 }
 
 bool matches(const DOMNode* node, const ChildKey& key) {
-  if (!isElement(node) || Text(ops::name(node)) != key.name) return false;
+  if (!isElement(node) || !isName(ops::name(node), key.name)) return false;
   switch (key.kind) {
     case ChildKey::kText:
       return hasText(node, key.value);
     case ChildKey::kAttribute: {
-      const DOMNode* attribute = ops::attribute(node, key.attribute);
-      return attribute != nullptr && ops::value(attribute) == key.value;
+      const Text value = ops::attributeValue(node, key.attribute);
+      return value.data() != nullptr && value == key.value;
     }
     default:
       return true;
@@ -208,11 +208,8 @@ ChildKey ChildIndexes::Index::keyOf(const DOMNode* element, std::u16string& stor
       key.value = store;
     }
   } else if (m_kind == ChildKey::kAttribute) {
-    const DOMNode* attribute = ops::attribute(element, m_attribute);
-    if (attribute == nullptr)
-      key.kind = ChildKey::kName;
-    else
-      key.value = ops::value(attribute);
+    key.value = ops::attributeValue(element, m_attribute);
+    if (key.value.data() == nullptr) key.kind = ChildKey::kName;
   }
   return key;
 }

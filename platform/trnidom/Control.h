@@ -1,7 +1,10 @@
 #ifndef TRNIDOM_CONTROL_H
 #define TRNIDOM_CONTROL_H
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 #include <trnidom/TRNIDOM_Document.h>
 #include <trnidom/TRNIDOM_Node.h>
@@ -11,8 +14,33 @@
 
 #include "ChildIndexes.h"
 #include "DocumentMemory.h"
+#include "Text.h"
 
 namespace trnidom_detail {
+
+/// Where a document keeps names that it has given to nodes: they are XML names, then. A few, told apart by little: that
+/// is enough for most.
+class KnownNames {
+ public:
+  /// The name where the document keeps it, or null when that is not known.
+  const XMLCh* find(Text name) const noexcept {
+    if (name.empty()) return nullptr;
+    const Text known = m_names[slot(name)];
+    if (known.size() != name.size()) return nullptr;
+    return std::memcmp(known.data(), name.data(), name.size() * sizeof(XMLCh)) == 0 ? known.data() : nullptr;
+  }
+
+  void add(const XMLCh* kept) noexcept {
+    const Text name(kept);
+    m_names[slot(name)] = name;
+  }
+
+ private:
+  static std::size_t slot(Text name) noexcept { return (name.size() * 5 + name.front() + name.back() * 3U) % kSlots; }
+
+  static constexpr std::size_t kSlots = 64;
+  std::array<Text, kSlots> m_names{};
+};
 
 /// A document and what the wrapper knows of it. Made without handles; the last handle to go deletes it.
 struct Control final : DocumentControl {
@@ -21,6 +49,7 @@ struct Control final : DocumentControl {
 
   DocumentMemory memory;
   ChildIndexes indexes;
+  KnownNames names;
   xercesc::DOMDocument* document;
 
   /// The element that was made with the document, or null. It gives way to another document element as long as it has

@@ -37,6 +37,9 @@ Text value(const DOMNode* node);
 
 /// The attribute of an element, or null.
 DOMNode* attribute(const DOMNode* element, Text name) noexcept;
+
+/// The value of that attribute, as `value` has it; its data is null when there is none.
+Text attributeValue(const DOMNode* element, Text name);
 std::size_t attributeCount(const DOMNode* element) noexcept;
 DOMNode* attributeAt(const DOMNode* element, std::size_t index) noexcept;
 
@@ -45,7 +48,8 @@ DOMNode* ownerElement(const DOMNode* attribute) noexcept;
 
 // Making nodes without a parent.
 
-DOMNode* newElement(DOMDocument* document, Text name);
+/// @param kept  the same name where the document keeps it, if that is known: the name of another of its nodes.
+DOMNode* newElement(DOMDocument* document, Text name, const XMLCh* kept = nullptr);
 DOMNode* newText(DOMDocument* document, Text data);
 DOMNode* newComment(DOMDocument* document, Text data);
 DOMNode* newCDATASection(DOMDocument* document, Text data);
@@ -59,8 +63,8 @@ void link(DOMNode* parent, DOMNode* child, DOMNode* before) noexcept;
 
 void unlink(DOMNode* parent, DOMNode* child) noexcept;
 
-/// Adds an attribute to an element that has none of that name.
-void addAttribute(DOMNode* element, Text name, Text value);
+/// Adds an attribute to an element that has none of that name, and gives it.
+DOMNode* addAttribute(DOMNode* element, Text name, Text value, const XMLCh* kept = nullptr);
 
 /// Takes an attribute off its element.
 void removeAttribute(DOMNode* element, DOMNode* attribute) noexcept;

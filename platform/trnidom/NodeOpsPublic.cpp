@@ -76,6 +76,11 @@ DOMNode* attribute(const DOMNode* element, Text name) noexcept {
   return name.find(u'\0') == Text::npos ? asElement(element)->getAttributeNode(name.data()) : nullptr;
 }
 
+Text attributeValue(const DOMNode* element, Text name) {
+  const DOMNode* found = attribute(element, name);
+  return found != nullptr ? value(found) : Text();
+}
+
 std::size_t attributeCount(const DOMNode* element) noexcept {
   return element->getAttributes()->getLength();
 }
@@ -88,7 +93,7 @@ DOMNode* ownerElement(const DOMNode* attribute) noexcept {
   return static_cast<const DOMAttr*>(attribute)->getOwnerElement();
 }
 
-DOMNode* newElement(DOMDocument* document, Text name) {
+DOMNode* newElement(DOMDocument* document, Text name, const XMLCh*) {
   return document->createElement(name.data());
 }
 
@@ -122,8 +127,10 @@ void unlink(DOMNode* parent, DOMNode* child) noexcept {
   parent->removeChild(child);
 }
 
-void addAttribute(DOMNode* element, Text name, Text value) {
-  asElement(element)->setAttributeNode(static_cast<DOMAttr*>(newAttribute(element->getOwnerDocument(), name, value)));
+DOMNode* addAttribute(DOMNode* element, Text name, Text value, const XMLCh*) {
+  auto* attribute = static_cast<DOMAttr*>(newAttribute(element->getOwnerDocument(), name, value));
+  asElement(element)->setAttributeNode(attribute);
+  return attribute;
 }
 
 void removeAttribute(DOMNode* element, DOMNode* attribute) noexcept {

@@ -22,6 +22,7 @@ class Parser final : public xercesc::SAXParser {
     setLoadExternalDTD(false);
     setDisableDefaultEntityResolution(true);
     setErrorHandler(&m_place);  // without one, errors are not reported
+    setDTDHandler(&m_place);    // without one, a DOCTYPE is not reported
     setDocumentHandler(&m_place);
     installAdvDocHandler(&handler);
   }

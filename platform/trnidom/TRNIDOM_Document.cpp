@@ -2,6 +2,7 @@
 
 #include <trnidom/TRNIDOM_DOMException.h>
 
+#include "Changes.h"
 #include "Control.h"
 #include "ListRecord.h"
 #include "NodeOps.h"
@@ -42,12 +43,14 @@ TRNIDOM_Node make(const char* tried, const TRNIDOM_Node& handle, const I18NStrin
 
 TRNIDOM_Element TRNIDOM_Document::createElement(const I18NString& tagName) {
   static constexpr const char* kTried = "createElement";
-  requireName(textOf(tagName), kTried, requireDocument(kTried, *this)->document);
-  return make(kTried, *this, tagName, ops::newElement);
+  Control* control = requireDocument(kTried, *this);
+  return Access::handle(newElement(kTried, control, tagName), control);
 }
 
 TRNIDOM_Node TRNIDOM_Document::createTextNode(const I18NString& data) {
-  return make("createTextNode", *this, data, ops::newText);
+  static constexpr const char* kTried = "createTextNode";
+  Control* control = requireDocument(kTried, *this);
+  return Access::handle(newText(kTried, control, data), control);
 }
 
 TRNIDOM_Node TRNIDOM_Document::createComment(const I18NString& data) {

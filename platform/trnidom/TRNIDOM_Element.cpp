@@ -37,9 +37,12 @@ I18NString TRNIDOM_Element::getTagName() const {
 
 I18NString TRNIDOM_Element::getAttribute(const I18NString& name) const {
   const DOMNode* element = elementOf(*this);
-  const DOMNode* attribute = element != nullptr ? ops::attribute(element, textOf(name)) : nullptr;
-  if (attribute == nullptr) return {};
-  return guarded("getAttribute", attribute, [&] { return stringOf(ops::value(attribute)); });
+  if (element == nullptr) return {};
+  return guarded("getAttribute", element, [&]() -> I18NString {
+    const Text value = ops::attributeValue(element, textOf(name));
+    if (value.empty()) return {};
+    return stringOf(value);
+  });
 }
 
 bool TRNIDOM_Element::hasAttribute(const I18NString& name) const noexcept {
@@ -47,19 +50,22 @@ bool TRNIDOM_Element::hasAttribute(const I18NString& name) const noexcept {
   return element != nullptr && ops::attribute(element, textOf(name)) != nullptr;
 }
 
-void TRNIDOM_Element::setAttribute(const I18NString& name, const I18NString& value) {
+void TRNIDOM_Element::setAttribute(const I18NString& attrName, const I18NString& attrValue) {
   static constexpr const char* kTried = "setAttribute";
   DOMNode* element = requireElement(kTried, *this);
-  requireNoNul(textOf(value), kTried, element);
-  DOMNode* attribute = ops::attribute(element, textOf(name));
-  if (attribute == nullptr) requireName(textOf(name), kTried, element);
-  guarded(kTried, element, [&] {
-    if (attribute != nullptr)
-      ops::setValue(attribute, textOf(value));
-    else
-      ops::addAttribute(element, textOf(name), textOf(value));
-  });
-  Access::control(*this)->indexes.attributeChanged(element, textOf(name));
+  Control* control = Access::control(*this);
+  const Text name = textOf(attrName);
+  const Text value = textOf(attrValue);
+  requireNoNul(value, kTried, element);
+  if (DOMNode* attribute = ops::attribute(element, name)) {
+    guarded(kTried, element, [&] { ops::setValue(attribute, value); });
+  } else {
+    const XMLCh* kept = control->names.find(name);
+    if (kept == nullptr) requireName(name, kTried, element);
+    attribute = guarded(kTried, element, [&] { return ops::addAttribute(element, name, value, kept); });
+    if (kept == nullptr) control->names.add(ops::name(attribute));
+  }
+  control->indexes.attributeChanged(element, name);
 }
 
 void TRNIDOM_Element::removeAttribute(const I18NString& name) {

@@ -26,7 +26,7 @@ class TRNIDOM_API TRNIDOM_Element : public TRNIDOM_Node {
 
   /// Adds the attribute or replaces its value.
   /// @throws TRNIDOM_DOMException on a null handle, on a node that is no element, and for a malformed name.
-  void setAttribute(const I18NString& name, const I18NString& value);
+  void setAttribute(const I18NString& attrName, const I18NString& attrValue);
 
   /// Does nothing when the attribute is absent.
   /// @throws TRNIDOM_DOMException on a null handle and on a node that is no element.

@@ -1,7 +1,8 @@
 #include <trnidom/TRNIDOM_Helper.h>
 
-#include <trnidom/TRNIDOM_Document.h>
+#include <trnidom/TRNIDOM_DOMException.h>
 
+#include "Changes.h"
 #include "Control.h"
 #include "NodeOps.h"
 #include "Tree.h"
@@ -21,20 +22,27 @@ bool isText(const DOMNode* node) noexcept {
   return type == DOMNode::TEXT_NODE || type == DOMNode::CDATA_SECTION_NODE;
 }
 
+constexpr const char* kFindOrCreate = "findOrCreate";
+
 TRNIDOM_Element findChild(const TRNIDOM_Node& parent, const ChildKey& key) {
-  return guarded("findOrCreate", Access::node(parent), [&] {
+  return guarded(kFindOrCreate, Access::node(parent), [&] {
     return Access::handle(Access::control(parent)->indexes.find(Access::node(parent), key), parent);
   });
 }
 
-/// A new element of the parent's document, which may be the parent itself.
-TRNIDOM_Element newElement(const TRNIDOM_Node& parent, const I18NString& name) {
-  Control* control = Access::control(parent);
-  return TRNIDOM_Document(Access::handle(control->document, control)).createElement(name);
+/// A new element of the parent's document, to be completed before it is appended.
+TRNIDOM_Element detachedElement(const TRNIDOM_Node& parent, const I18NString& name) {
+  return Access::handle(newElement(kFindOrCreate, Access::control(parent), name), parent);
 }
 
-TRNIDOM_Element appended(const TRNIDOM_Node& parent, const TRNIDOM_Node& child) {
-  return TRNIDOM_Node(parent).appendChild(child);
+TRNIDOM_Element appendChild(const TRNIDOM_Node& parent, const TRNIDOM_Node& child) {
+  Insertion(kFindOrCreate, parent, child).run(nullptr);
+  return child;
+}
+
+Control* requireNode(const char* tried, const TRNIDOM_Node& node) {
+  if (node.isNull()) fail(TRNIDOM_DOMException::INVALID_STATE_ERR, tried, nullptr, "there is no node");
+  return Access::control(node);
 }
 
 }  // namespace
@@ -77,7 +85,7 @@ TRNIDOM_Element TRNIDOM_Helper::findElementWithAttribute(const TRNIDOM_Node& par
 TRNIDOM_Element TRNIDOM_Helper::findOrCreateElement(const TRNIDOM_Node& parent, const I18NString& name) {
   TRNIDOM_Element found = findChildElement(parent, name);
   if (!found.isNull() || parent.isNull()) return found;
-  return appended(parent, newElement(parent, name));
+  return appendElement(parent, name);
 }
 
 TRNIDOM_Element TRNIDOM_Helper::findOrCreateElementWithText(const TRNIDOM_Node& parent, const I18NString& name,
@@ -85,9 +93,9 @@ TRNIDOM_Element TRNIDOM_Helper::findOrCreateElementWithText(const TRNIDOM_Node& 
   if (parent.isNull()) return {};
   TRNIDOM_Element found = findChild(parent, {ChildKey::kText, textOf(name), Text(), textOf(text)});
   if (!found.isNull()) return found;
-  TRNIDOM_Element made = newElement(parent, name);
-  if (!text.empty()) made.appendChild(made.getOwnerDocument().createTextNode(text));
-  return appended(parent, made);
+  TRNIDOM_Element made = detachedElement(parent, name);
+  if (!text.empty()) appendText(made, text);
+  return appendChild(parent, made);
 }
 
 TRNIDOM_Element TRNIDOM_Helper::findOrCreateElementWithAttribute(const TRNIDOM_Node& parent, const I18NString& name,
@@ -96,9 +104,19 @@ TRNIDOM_Element TRNIDOM_Helper::findOrCreateElementWithAttribute(const TRNIDOM_N
   if (parent.isNull()) return {};
   TRNIDOM_Element found = findChild(parent, {ChildKey::kAttribute, textOf(name), textOf(attrName), textOf(attrValue)});
   if (!found.isNull()) return found;
-  TRNIDOM_Element made = newElement(parent, name);
+  TRNIDOM_Element made = detachedElement(parent, name);
   made.setAttribute(attrName, attrValue);
-  return appended(parent, made);
+  return appendChild(parent, made);
+}
+
+TRNIDOM_Element TRNIDOM_Helper::appendElement(const TRNIDOM_Node& parent, const I18NString& name) {
+  static constexpr const char* kTried = "appendElement";
+  return appendNew(kTried, parent, newElement(kTried, requireNode(kTried, parent), name));
+}
+
+TRNIDOM_Node TRNIDOM_Helper::appendText(const TRNIDOM_Node& parent, const I18NString& text) {
+  static constexpr const char* kTried = "appendText";
+  return appendNew(kTried, parent, newText(kTried, requireNode(kTried, parent), text));
 }
 
 I18NString TRNIDOM_Helper::getElementText(const TRNIDOM_Node& element) {

@@ -5,6 +5,7 @@
 #include <trnidom/TRNIDOM_NamedNodeMap.h>
 #include <trnidom/TRNIDOM_NodeList.h>
 
+#include "Changes.h"
 #include "Control.h"
 #include "ListRecord.h"
 #include "NodeOps.h"
@@ -15,85 +16,6 @@ using namespace trnidom_detail;
 using xercesc::DOMNode;
 
 namespace {
-
-/// Whether the W3C allows a node of that type below a node of that type.
-bool takes(DOMNode::NodeType parent, DOMNode::NodeType child) noexcept {
-  switch (child) {
-    case DOMNode::ELEMENT_NODE:
-    case DOMNode::COMMENT_NODE:
-    case DOMNode::PROCESSING_INSTRUCTION_NODE:
-      return parent == DOMNode::ELEMENT_NODE || parent == DOMNode::DOCUMENT_NODE;
-    case DOMNode::TEXT_NODE:
-      return parent == DOMNode::ELEMENT_NODE || parent == DOMNode::ATTRIBUTE_NODE;
-    case DOMNode::CDATA_SECTION_NODE:
-      return parent == DOMNode::ELEMENT_NODE;
-    default:
-      return false;
-  }
-}
-
-bool isSelfOrAncestor(const DOMNode* node, const DOMNode* of) noexcept {
-  if (node == of) return true;
-  if (ops::firstChild(node) == nullptr) return false;
-  for (; of != nullptr; of = ops::parent(of))
-    if (node == of) return true;
-  return false;
-}
-
-/// A change of a parent's children: checked as a whole, then made without a way to fail.
-class Insertion {
- public:
-  /// @param replaced  a child that will have gone by then; may be null.
-  Insertion(const char* tried, const TRNIDOM_Node& parent, const TRNIDOM_Node& child, DOMNode* replaced)
-      : m_control(Access::control(parent)), m_parent(Access::node(parent)), m_child(Access::node(child)) {
-    if (m_parent == nullptr) fail(TRNIDOM_DOMException::INVALID_STATE_ERR, tried, m_parent, "there is no node");
-    if (m_child == nullptr) fail(TRNIDOM_DOMException::HIERARCHY_REQUEST_ERR, tried, m_parent, "the child is null");
-    if (Access::control(child) != m_control)
-      fail(TRNIDOM_DOMException::WRONG_DOCUMENT_ERR, tried, m_parent, describe(m_child) + " is of another document");
-    if (!takes(m_parent->getNodeType(), m_child->getNodeType()))
-      fail(TRNIDOM_DOMException::HIERARCHY_REQUEST_ERR, tried, m_parent, describe(m_child) + " cannot be its child");
-    if (isSelfOrAncestor(m_child, m_parent))
-      fail(TRNIDOM_DOMException::HIERARCHY_REQUEST_ERR, tried, m_parent, "the child is the node or above it");
-    if (m_parent == m_control->document && m_child->getNodeType() == DOMNode::ELEMENT_NODE)
-      settleDocumentElement(tried, replaced);
-  }
-
-  /// Inserts before a child of the parent that is not the inserted one, or at the end when that is null.
-  void run(DOMNode* before) noexcept {
-    if (m_displaced != nullptr) {
-      if (before == m_displaced) before = ops::nextSibling(m_displaced);
-      remove(m_control, m_parent, m_displaced);
-    }
-    if (DOMNode* from = ops::parent(m_child)) remove(m_control, from, m_child);
-    ops::link(m_parent, m_child, before);
-    ++m_control->structure;
-    if (before == nullptr)
-      m_control->indexes.appended(m_parent, m_child);
-    else
-      m_control->indexes.inserted(m_parent, m_child);
-  }
-
-  static void remove(Control* control, DOMNode* parent, DOMNode* child) noexcept {
-    ops::unlink(parent, child);
-    ++control->structure;
-    control->indexes.removed(parent, child);
-  }
-
- private:
-  /// A document has one element. An untouched placeholder gives way to another.
-  void settleDocumentElement(const char* tried, const DOMNode* replaced) {
-    DOMNode* present = m_control->document->getDocumentElement();
-    if (present == nullptr || present == m_child || present == replaced) return;
-    if (present != m_control->placeholder || ops::firstChild(present) != nullptr || ops::attributeCount(present) != 0)
-      fail(TRNIDOM_DOMException::HIERARCHY_REQUEST_ERR, tried, m_parent, "there is a document element already");
-    m_displaced = present;
-  }
-
-  Control* m_control;
-  DOMNode* m_parent;
-  DOMNode* m_child;
-  DOMNode* m_displaced = nullptr;
-};
 
 void requireChild(const char* tried, const TRNIDOM_Node& parent, const TRNIDOM_Node& child) {
   const DOMNode* above = Access::node(parent);
@@ -170,7 +92,7 @@ void TRNIDOM_Node::setNodeValue(const I18NString& value) {
 
 TRNIDOM_Node TRNIDOM_Node::appendChild(const TRNIDOM_Node& newChild) {
   Insertion insertion("appendChild", *this, newChild, nullptr);
-  if (Access::node(*this)->getLastChild() != Access::node(newChild)) insertion.run(nullptr);
+  insertion.run(nullptr);
   return newChild;
 }
 
@@ -190,14 +112,14 @@ TRNIDOM_Node TRNIDOM_Node::replaceChild(const TRNIDOM_Node& newChild, const TRNI
   if (newChild == oldChild) return oldChild;
   DOMNode* before = ops::nextSibling(old);
   if (before == Access::node(newChild)) before = ops::nextSibling(before);
-  Insertion::remove(Access::control(*this), Access::node(*this), old);
+  removeChildNode(Access::control(*this), Access::node(*this), old);
   insertion.run(before);
   return oldChild;
 }
 
 TRNIDOM_Node TRNIDOM_Node::removeChild(const TRNIDOM_Node& oldChild) {
   requireChild("removeChild", *this, oldChild);
-  Insertion::remove(Access::control(*this), Access::node(*this), Access::node(oldChild));
+  removeChildNode(Access::control(*this), Access::node(*this), Access::node(oldChild));
   return oldChild;
 }
 

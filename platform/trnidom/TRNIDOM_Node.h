@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <utility>
 
+#include <sys/single_threaded.h>
 #include <trn/I18NString.h>
 #include <trnidom/TRNIDOM_Export.h>
 
@@ -18,15 +19,28 @@ namespace trnidom_detail {
 struct NodeRep;
 
 /// What all handles of one document share. The last handle to go frees the document.
+///
+/// Counting is atomic, but a process that has only ever had one thread is spared the cost.
 struct TRNIDOM_API DocumentControl {
   std::atomic<std::size_t> handles{0};
 
-  void addHandle() noexcept { handles.fetch_add(1, std::memory_order_relaxed); }
+  void addHandle() noexcept {
+    if (__libc_single_threaded != 0)
+      handles.store(handles.load(std::memory_order_relaxed) + 1, std::memory_order_relaxed);
+    else
+      handles.fetch_add(1, std::memory_order_relaxed);
+  }
   void removeHandle() noexcept {
-    if (handles.fetch_sub(1, std::memory_order_acq_rel) == 1) release();
+    if (countDown() == 0) release();
   }
 
  private:
+  std::size_t countDown() noexcept {
+    if (__libc_single_threaded == 0) return handles.fetch_sub(1, std::memory_order_acq_rel) - 1;
+    const std::size_t left = handles.load(std::memory_order_relaxed) - 1;
+    handles.store(left, std::memory_order_relaxed);
+    return left;
+  }
   void release() noexcept;
 };
 
@@ -73,8 +87,11 @@ class TRNIDOM_API TRNIDOM_Node {
     return *this;
   }
   TRNIDOM_Node& operator=(TRNIDOM_Node&& other) noexcept {
-    TRNIDOM_Node moved(std::move(other));
-    swap(moved);
+    if (this != &other) {
+      if (m_control != nullptr) m_control->removeHandle();
+      m_node = std::exchange(other.m_node, nullptr);
+      m_control = std::exchange(other.m_control, nullptr);
+    }
     return *this;
   }
   ~TRNIDOM_Node() {

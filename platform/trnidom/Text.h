@@ -27,6 +27,13 @@ inline Text textOf(const XMLCh* text) noexcept {
   return text != nullptr ? Text(text) : Text();
 }
 
+/// Whether a NUL-terminated name is that name. A name with a NUL in it is no node's.
+inline bool isName(const XMLCh* candidate, Text name) noexcept {
+  for (const char16_t unit : name)
+    if (*candidate++ != unit || unit == 0) return false;
+  return *candidate == 0;
+}
+
 /// Compares names of one document with a name. A document keeps equal names at few addresses, so that most names are
 /// told apart without looking at them.
 class NameMatcher {
@@ -36,7 +43,7 @@ class NameMatcher {
   bool operator()(const XMLCh* name) noexcept {
     if (name == m_same) return true;
     if (name == m_other) return false;
-    if (Text(name) != m_name) {
+    if (!isName(name, m_name)) {
       m_other = name;
       return false;
     }

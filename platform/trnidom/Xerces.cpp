@@ -1,6 +1,8 @@
 #include "Xerces.h"
 
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <new>
 
 #include <trnidom/TRNIDOM_DOMException.h>
@@ -41,6 +43,19 @@ std::string ofElement(const DOMNode* element) {
 struct Panic final : xercesc::PanicHandler {
   void panic(const PanicReasons) override { throw std::bad_alloc(); }
 };
+
+/// Looks at four code units at a time.
+bool hasNul(Text text) noexcept {
+  constexpr std::uint64_t kOnes = 0x0001000100010001;
+  constexpr std::size_t kUnits = sizeof(kOnes) / sizeof(char16_t);
+  std::size_t at = 0;
+  for (; at + kUnits <= text.size(); at += kUnits) {
+    std::uint64_t units;
+    std::memcpy(&units, text.data() + at, sizeof units);
+    if (((units - kOnes) & ~units & kOnes << 15) != 0) return true;
+  }
+  return text.find(u'\0', at) != Text::npos;
+}
 
 }  // namespace
 
@@ -103,8 +118,7 @@ void requireName(Text name, const char* tried, const DOMNode* on) {
 }
 
 void requireNoNul(Text text, const char* tried, const DOMNode* on) {
-  if (text.find(u'\0') != Text::npos)
-    fail(TRNIDOM_DOMException::INVALID_CHARACTER_ERR, tried, on, "the text has the character U+0000");
+  if (hasNul(text)) fail(TRNIDOM_DOMException::INVALID_CHARACTER_ERR, tried, on, "the text has the character U+0000");
 }
 
 }  // namespace trnidom_detail

@@ -1,0 +1,341 @@
+// The wrapper's node work on Xerces-C's node objects; see NodeOps.h. The only source that looks inside Xerces-C's DOM.
+//
+// The fields are public so that Xerces-C's own classes reach into each other, and reaching them by a static cast saves
+// the dynamic casts that most of the time of a tree built through the public interface goes into. The state left behind
+// is the one that the public interface leaves: whatever is not done here is done through it on the same nodes.
+
+#include <cstdint>
+
+#include <xercesc/dom/impl/DOMAttrImpl.hpp>
+#include <xercesc/dom/impl/DOMAttrMapImpl.hpp>
+#include <xercesc/dom/impl/DOMCDATASectionImpl.hpp>
+#include <xercesc/dom/impl/DOMCommentImpl.hpp>
+#include <xercesc/dom/impl/DOMDocumentImpl.hpp>
+#include <xercesc/dom/impl/DOMElementImpl.hpp>
+#include <xercesc/dom/impl/DOMNodeVector.hpp>
+#include <xercesc/dom/impl/DOMProcessingInstructionImpl.hpp>
+#include <xercesc/dom/impl/DOMStringPool.hpp>
+#include <xercesc/dom/impl/DOMTextImpl.hpp>
+#include <xercesc/util/OutOfMemoryException.hpp>
+#include <xercesc/util/XMLUni.hpp>
+#include <xercesc/util/XercesVersion.hpp>
+
+#include "NodeOps.h"
+
+// Another version may lay its nodes out differently. Read its headers before allowing it, or build with
+// TRNIDOM_PUBLIC_XERCES.
+static_assert(XERCES_VERSION_MAJOR == 3 && XERCES_VERSION_MINOR == 2, "written for the nodes of Xerces-C 3.2");
+
+namespace trnidom_detail::ops {
+
+using namespace xercesc;
+
+namespace {
+
+/// Few elements have more attributes; more are made room for when they come.
+constexpr XMLSize_t kFewAttributes = 3;
+
+/// So many sorted names are looked through one by one.
+constexpr XMLSize_t kFewNames = 8;
+
+// What is protected is reached as a derived class may reach it.
+
+struct AttrMap : DOMAttrMapImpl {
+  static DOMNodeVector* nodes(const DOMAttrMapImpl* map) noexcept { return map->*&AttrMap::fNodes; }
+};
+
+template <typename Impl>
+struct Leaf : Impl {
+  static DOMNodeImpl& node(Impl* impl) noexcept { return impl->*&Leaf::fNode; }
+  static DOMChildNode& child(Impl* impl) noexcept { return impl->*&Leaf::fChild; }
+  static DOMCharacterDataImpl& data(Impl* impl) noexcept { return impl->*&Leaf::fCharacterData; }
+};
+
+/// Asks the processor for what lies behind an element that is being read. A document keeps its nodes in the order they
+/// were made in, mostly the one they are read in, and its nodes are too large and too far apart for the processor to
+/// find that out itself. What is asked for in vain, or is no memory, costs next to nothing.
+void fetchAhead(const DOMNode* element) noexcept {
+  constexpr std::size_t kLine = 64;
+  constexpr std::size_t kAhead = 25;  // about three elements with an attribute
+  constexpr std::size_t kLines = 9;   // about one of them
+  const auto at = reinterpret_cast<std::uintptr_t>(element);
+  for (std::size_t line = kAhead; line < kAhead + kLines; ++line)
+    __builtin_prefetch(reinterpret_cast<const void*>(at + line * kLine));
+}
+
+DOMElementImpl* asElement(const DOMNode* node) noexcept {
+  return static_cast<DOMElementImpl*>(const_cast<DOMNode*>(node));
+}
+
+DOMAttrImpl* asAttribute(const DOMNode* node) noexcept {
+  return static_cast<DOMAttrImpl*>(const_cast<DOMNode*>(node));
+}
+
+template <typename Impl>
+Impl* as(const DOMNode* node) noexcept {
+  return static_cast<Impl*>(const_cast<DOMNode*>(node));
+}
+
+/// What a node has that can be a child.
+struct Child {
+  DOMNodeImpl* node;  // null for a node that cannot
+  DOMChildNode* siblings;
+};
+
+Child childOf(const DOMNode* node) noexcept {
+  switch (node->getNodeType()) {
+    case DOMNode::ELEMENT_NODE:
+      return {&asElement(node)->fNode, &asElement(node)->fChild};
+    case DOMNode::TEXT_NODE:
+      return {&as<DOMTextImpl>(node)->fNode, &as<DOMTextImpl>(node)->fChild};
+    case DOMNode::COMMENT_NODE:
+      return {&as<DOMCommentImpl>(node)->fNode, &as<DOMCommentImpl>(node)->fChild};
+    case DOMNode::CDATA_SECTION_NODE: {
+      auto* impl = as<DOMCDATASectionImpl>(node);
+      return {&Leaf<DOMCDATASectionImpl>::node(impl), &Leaf<DOMCDATASectionImpl>::child(impl)};
+    }
+    case DOMNode::PROCESSING_INSTRUCTION_NODE: {
+      auto* impl = as<DOMProcessingInstructionImpl>(node);
+      return {&Leaf<DOMProcessingInstructionImpl>::node(impl), &Leaf<DOMProcessingInstructionImpl>::child(impl)};
+    }
+    default:
+      return {nullptr, nullptr};
+  }
+}
+
+/// Appends a node without a parent to an element or attribute.
+void append(DOMNode* parent, DOMParentNode& children, DOMNode* child) noexcept {
+  const Child appended = childOf(child);
+  appended.node->fOwnerNode = parent;
+  appended.node->isOwned(true);
+  if (children.fFirstChild == nullptr) {
+    children.fFirstChild = child;
+    appended.node->isFirstChild(true);
+    appended.siblings->previousSibling = child;
+  } else {
+    // The first child's previous sibling is the last child.
+    DOMChildNode* first = childOf(children.fFirstChild).siblings;
+    DOMNode* last = first->previousSibling;
+    childOf(last).siblings->nextSibling = child;
+    appended.siblings->previousSibling = last;
+    first->previousSibling = child;
+  }
+  children.changed();
+}
+
+/// Compares as Xerces-C sorts attributes: by code unit.
+int compare(Text name, const XMLCh* other) noexcept {
+  for (const XMLCh unit : name) {
+    if (unit != *other || unit == 0) return unit < *other || unit == 0 ? -1 : 1;
+    ++other;
+  }
+  return *other == 0 ? 0 : -1;
+}
+
+struct Place {
+  XMLSize_t index;  // where the attribute is, or would be
+  DOMNode* found;
+};
+
+Place place(DOMNodeVector* attributes, Text name) noexcept {
+  const XMLSize_t count = attributes != nullptr ? attributes->size() : 0;
+  XMLSize_t first = 0;
+  XMLSize_t last = count;
+  while (last - first > kFewNames) {
+    const XMLSize_t middle = first + (last - first) / 2;
+    if (compare(name, asAttribute(attributes->elementAt(middle))->fName) < 0)
+      last = middle;
+    else
+      first = middle;
+  }
+  for (; first < last; ++first) {
+    DOMNode* attribute = attributes->elementAt(first);
+    const int order = compare(name, asAttribute(attribute)->fName);
+    if (order <= 0) return {first, order == 0 ? attribute : nullptr};
+  }
+  return {first, nullptr};
+}
+
+/// The only child of an attribute, when it is a text, or null.
+DOMTextImpl* onlyText(const DOMNode* attribute) noexcept {
+  DOMNode* child = asAttribute(attribute)->fParent.fFirstChild;
+  if (child == nullptr || child->getNodeType() != DOMNode::TEXT_NODE) return nullptr;
+  auto* text = as<DOMTextImpl>(child);
+  return text->fChild.nextSibling == nullptr ? text : nullptr;
+}
+
+Text textIn(const DOMCharacterDataImpl& data) noexcept {
+  return {data.fDataBuf->getRawBuffer(), data.fDataBuf->getLen()};
+}
+
+void setData(DOMCharacterDataImpl& data, Text value) {
+  DOMBuffer* buffer = data.fDataBuf;
+  const XMLSize_t before = buffer->getLen();
+  try {
+    buffer->set(value.data(), value.size());
+  } catch (const OutOfMemoryException&) {
+    buffer->chop(before);  // what was there still is
+    throw;
+  }
+}
+
+DOMDocumentImpl* as(DOMDocument* document) noexcept {
+  return static_cast<DOMDocumentImpl*>(document);
+}
+
+/// The name to construct a node with, which looks it up among those that the document keeps. That takes a while, and
+/// is saved when the name is known: then the empty name is looked up and replaced.
+const XMLCh* lookedUp(Text name, const XMLCh* kept) noexcept {
+  return kept != nullptr ? XMLUni::fgZeroLenString : name.data();
+}
+
+DOMAttrImpl* makeAttribute(DOMDocumentImpl* document, Text name, Text value, const XMLCh* kept) {
+  auto* attribute = new (document, DOMMemoryManager::ATTR_OBJECT) DOMAttrImpl(document, lookedUp(name, kept));
+  if (kept != nullptr) attribute->fName = kept;
+  append(attribute, attribute->fParent, newText(document, value));
+  return attribute;
+}
+
+}  // namespace
+
+DOMNode* parent(const DOMNode* node) noexcept {
+  const DOMNodeImpl* impl = childOf(node).node;
+  return impl != nullptr && impl->isOwned() ? impl->fOwnerNode : nullptr;
+}
+
+DOMNode* firstChild(const DOMNode* node) noexcept {
+  return node->getFirstChild();
+}
+
+DOMNode* lastChild(const DOMNode* node) noexcept {
+  const DOMNode* first = node->getFirstChild();
+  return first != nullptr ? childOf(first).siblings->previousSibling : nullptr;
+}
+
+DOMNode* previousSibling(const DOMNode* node) noexcept {
+  const Child child = childOf(node);
+  return child.node == nullptr || child.node->isFirstChild() ? nullptr : child.siblings->previousSibling;
+}
+
+DOMNode* nextSibling(const DOMNode* node) noexcept {
+  return node->getNextSibling();
+}
+
+const XMLCh* name(const DOMNode* node) noexcept {
+  return node->getNodeName();
+}
+
+Text value(const DOMNode* node) {
+  switch (node->getNodeType()) {
+    case DOMNode::TEXT_NODE:
+      return textIn(as<DOMTextImpl>(node)->fCharacterData);
+    case DOMNode::CDATA_SECTION_NODE:
+      return textIn(Leaf<DOMCDATASectionImpl>::data(as<DOMCDATASectionImpl>(node)));
+    case DOMNode::ATTRIBUTE_NODE:
+      if (const DOMTextImpl* text = onlyText(node)) return textIn(text->fCharacterData);
+      break;
+    default:
+      break;
+  }
+  return textOf(node->getNodeValue());
+}
+
+DOMNode* attribute(const DOMNode* element, Text name) noexcept {
+  return place(AttrMap::nodes(asElement(element)->fAttributes), name).found;
+}
+
+Text attributeValue(const DOMNode* element, Text name) {
+  fetchAhead(element);
+  const DOMNode* found = attribute(element, name);
+  if (found == nullptr) return {};
+  const DOMTextImpl* text = onlyText(found);
+  return text != nullptr ? textIn(text->fCharacterData) : value(found);
+}
+
+std::size_t attributeCount(const DOMNode* element) noexcept {
+  DOMNodeVector* attributes = AttrMap::nodes(asElement(element)->fAttributes);
+  return attributes != nullptr ? attributes->size() : 0;
+}
+
+DOMNode* attributeAt(const DOMNode* element, std::size_t index) noexcept {
+  return AttrMap::nodes(asElement(element)->fAttributes)->elementAt(index);
+}
+
+DOMNode* ownerElement(const DOMNode* attribute) noexcept {
+  return asAttribute(attribute)->getOwnerElement();
+}
+
+DOMNode* newElement(DOMDocument* document, Text name, const XMLCh* kept) {
+  auto* element = new (as(document), DOMMemoryManager::ELEMENT_OBJECT) DOMElementImpl(document, lookedUp(name, kept));
+  if (kept != nullptr) element->fName = kept;
+  return element;
+}
+
+DOMNode* newText(DOMDocument* document, Text data) {
+  return new (as(document), DOMMemoryManager::TEXT_OBJECT) DOMTextImpl(document, data.data(), data.size());
+}
+
+DOMNode* newComment(DOMDocument* document, Text data) {
+  return document->createComment(data.data());
+}
+
+DOMNode* newCDATASection(DOMDocument* document, Text data) {
+  return document->createCDATASection(data.data());
+}
+
+DOMNode* newProcessingInstruction(DOMDocument* document, Text target, Text data) {
+  return document->createProcessingInstruction(target.data(), data.data());
+}
+
+DOMNode* newAttribute(DOMDocument* document, Text name, Text value) {
+  return makeAttribute(as(document), name, value, nullptr);
+}
+
+void link(DOMNode* parent, DOMNode* child, DOMNode* before) noexcept {
+  if (before == nullptr && parent->getNodeType() == DOMNode::ELEMENT_NODE)
+    append(parent, asElement(parent)->fParent, child);
+  else
+    parent->insertBefore(child, before);
+}
+
+void unlink(DOMNode* parent, DOMNode* child) noexcept {
+  parent->removeChild(child);
+}
+
+DOMNode* addAttribute(DOMNode* element, Text name, Text value, const XMLCh* kept) {
+  DOMElementImpl* owner = asElement(element);
+  DOMDocumentImpl* document = as(owner->fParent.fOwnerDocument);
+  DOMAttrImpl* attribute = makeAttribute(document, name, value, kept);
+  owner->fAttributes->reserve(kFewAttributes);  // does nothing from the second on
+  DOMNodeVector* attributes = AttrMap::nodes(owner->fAttributes);
+  attributes->insertElementAt(attribute, place(attributes, name).index);
+  attribute->fNode.fOwnerNode = element;
+  attribute->fNode.isOwned(true);
+  document->changed();
+  return attribute;
+}
+
+void removeAttribute(DOMNode* element, DOMNode* attribute) noexcept {
+  asElement(element)->removeAttributeNode(asAttribute(attribute));
+}
+
+void setValue(DOMNode* node, Text value) {
+  switch (node->getNodeType()) {
+    case DOMNode::TEXT_NODE:
+      return setData(as<DOMTextImpl>(node)->fCharacterData, value);
+    case DOMNode::CDATA_SECTION_NODE:
+      return setData(Leaf<DOMCDATASectionImpl>::data(as<DOMCDATASectionImpl>(node)), value);
+    case DOMNode::COMMENT_NODE:
+      return setData(as<DOMCommentImpl>(node)->fCharacterData, value);
+    case DOMNode::PROCESSING_INSTRUCTION_NODE:
+      return setData(Leaf<DOMProcessingInstructionImpl>::data(as<DOMProcessingInstructionImpl>(node)), value);
+    default:
+      break;
+  }
+  if (DOMTextImpl* text = onlyText(node)) return setData(text->fCharacterData, value);
+  DOMNode* replacement = newText(node->getOwnerDocument(), value);
+  while (DOMNode* child = node->getFirstChild()) node->removeChild(child);
+  append(node, asAttribute(node)->fParent, replacement);
+}
+
+}  // namespace trnidom_detail::ops
