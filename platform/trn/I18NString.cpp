@@ -58,19 +58,19 @@ class ShortTexts {
   ShortTexts() {
     for (std::size_t length = 0; length < kShortLength; ++length)
       m_texts[length] = UnicodeString(0, u' ', static_cast<std::int32_t>(length));
-    m_begin = static_cast<std::size_t>(reinterpret_cast<const unsigned char*>(m_texts[1].getBuffer()) -
-                                       reinterpret_cast<const unsigned char*>(&m_texts[1]));
   }
 
   void make(unsigned char* storage, const char16_t* text, std::size_t length) const noexcept {
-    std::memcpy(storage, static_cast<const void*>(&m_texts[length]), sizeof(UnicodeString));
-    std::memcpy(storage + m_begin, text, length * sizeof(char16_t));
-    std::memset(storage + m_begin + length * sizeof(char16_t), 0, sizeof(char16_t));
+    std::memcpy(storage, static_cast<const void*>(&m_texts[length]), kHead);
+    std::memcpy(storage + kHead, text, length * sizeof(char16_t));
+    std::memset(storage + kHead + length * sizeof(char16_t), 0, sizeof(char16_t));
   }
 
  private:
+  /// What the object has before its characters, which fill it to the end.
+  static constexpr std::size_t kHead = sizeof(UnicodeString) - kShortLength * sizeof(char16_t);
+
   UnicodeString m_texts[kShortLength];
-  std::size_t m_begin;  // of the characters in the object
 };
 
 /// Makes the text that another was moved out of a proper empty one.

@@ -104,7 +104,7 @@ TRNIDOM_Node appendNew(const char* tried, const TRNIDOM_Node& parent, DOMNode* c
     Insertion(tried, parent, handle).run(nullptr);
     return handle;
   }
-  ops::link(above, child, nullptr);
+  ops::append(above, child);
   ++control->structure;
   control->indexes.appended(above, child);
   return handle;

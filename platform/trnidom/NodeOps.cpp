@@ -76,6 +76,10 @@ Impl* as(const DOMNode* node) noexcept {
   return static_cast<Impl*>(const_cast<DOMNode*>(node));
 }
 
+DOMDocumentImpl* as(DOMDocument* document) noexcept {
+  return static_cast<DOMDocumentImpl*>(document);
+}
+
 /// What a node has that can be a child.
 struct Child {
   DOMNodeImpl* node;  // null for a node that cannot
@@ -120,7 +124,7 @@ void append(DOMNode* parent, DOMParentNode& children, DOMNode* child) noexcept {
     appended.siblings->previousSibling = last;
     first->previousSibling = child;
   }
-  children.changed();
+  as(children.fOwnerDocument)->changed();
 }
 
 /// Compares as Xerces-C sorts attributes: by code unit.
@@ -179,10 +183,6 @@ void setData(DOMCharacterDataImpl& data, Text value) {
   }
 }
 
-DOMDocumentImpl* as(DOMDocument* document) noexcept {
-  return static_cast<DOMDocumentImpl*>(document);
-}
-
 /// The name to construct a node with, which looks it up among those that the document keeps. That takes a while, and
 /// is saved when the name is known: then the empty name is looked up and replaced.
 const XMLCh* lookedUp(Text name, const XMLCh* kept) noexcept {
@@ -221,6 +221,20 @@ DOMNode* nextSibling(const DOMNode* node) noexcept {
   return node->getNextSibling();
 }
 
+DOMNode* nextElement(const DOMNode* node, Text name) noexcept {
+  NameMatcher named(name);
+  DOMNode* next = node->getNextSibling();
+  while (next != nullptr) {
+    if (next->getNodeType() == DOMNode::ELEMENT_NODE) {
+      if (named(asElement(next)->fName)) return next;
+      next = asElement(next)->fChild.nextSibling;
+    } else {
+      next = next->getNextSibling();
+    }
+  }
+  return nullptr;
+}
+
 const XMLCh* name(const DOMNode* node) noexcept {
   return node->getNodeName();
 }
@@ -246,7 +260,14 @@ DOMNode* attribute(const DOMNode* element, Text name) noexcept {
 
 Text attributeValue(const DOMNode* element, Text name) {
   fetchAhead(element);
-  const DOMNode* found = attribute(element, name);
+  DOMNodeVector* attributes = AttrMap::nodes(asElement(element)->fAttributes);
+  const DOMNode* found = nullptr;
+  if (attributes != nullptr && attributes->size() == 1) {
+    const DOMNode* only = attributes->elementAt(0);
+    if (isName(asAttribute(only)->fName, name)) found = only;
+  } else {
+    found = place(attributes, name).found;
+  }
   if (found == nullptr) return {};
   const DOMTextImpl* text = onlyText(found);
   return text != nullptr ? textIn(text->fCharacterData) : value(found);
@@ -291,9 +312,13 @@ DOMNode* newAttribute(DOMDocument* document, Text name, Text value) {
   return makeAttribute(as(document), name, value, nullptr);
 }
 
+void append(DOMNode* element, DOMNode* child) noexcept {
+  append(element, asElement(element)->fParent, child);
+}
+
 void link(DOMNode* parent, DOMNode* child, DOMNode* before) noexcept {
   if (before == nullptr && parent->getNodeType() == DOMNode::ELEMENT_NODE)
-    append(parent, asElement(parent)->fParent, child);
+    append(parent, child);
   else
     parent->insertBefore(child, before);
 }

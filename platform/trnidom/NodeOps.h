@@ -29,6 +29,9 @@ DOMNode* lastChild(const DOMNode* node) noexcept;
 DOMNode* previousSibling(const DOMNode* node) noexcept;
 DOMNode* nextSibling(const DOMNode* node) noexcept;
 
+/// The first element of that name among the siblings after the node, or null.
+DOMNode* nextElement(const DOMNode* node, Text name) noexcept;
+
 const XMLCh* name(const DOMNode* node) noexcept;
 
 /// The value of a text, CDATA section, comment or processing instruction. An attribute's value may have to be put
@@ -57,6 +60,9 @@ DOMNode* newProcessingInstruction(DOMDocument* document, Text target, Text data)
 DOMNode* newAttribute(DOMDocument* document, Text name, Text value);
 
 // Changing.
+
+/// Appends a node without a parent to an element.
+void append(DOMNode* element, DOMNode* child) noexcept;
 
 /// Inserts a node without a parent before a child of the parent, or at the end when that is null.
 void link(DOMNode* parent, DOMNode* child, DOMNode* before) noexcept;

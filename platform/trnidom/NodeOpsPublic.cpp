@@ -54,6 +54,13 @@ DOMNode* nextSibling(const DOMNode* node) noexcept {
   return node->getNextSibling();
 }
 
+DOMNode* nextElement(const DOMNode* node, Text name) noexcept {
+  NameMatcher named(name);
+  for (DOMNode* next = node->getNextSibling(); next != nullptr; next = next->getNextSibling())
+    if (next->getNodeType() == DOMNode::ELEMENT_NODE && named(next->getNodeName())) return next;
+  return nullptr;
+}
+
 const XMLCh* name(const DOMNode* node) noexcept {
   return node->getNodeName();
 }
@@ -117,6 +124,10 @@ DOMNode* newAttribute(DOMDocument* document, Text name, Text value) {
   DOMAttr* attribute = document->createAttribute(name.data());
   attribute->appendChild(document->createTextNode(value.data()));
   return attribute;
+}
+
+void append(DOMNode* element, DOMNode* child) noexcept {
+  element->appendChild(child);
 }
 
 void link(DOMNode* parent, DOMNode* child, DOMNode* before) noexcept {

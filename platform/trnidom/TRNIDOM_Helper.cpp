@@ -54,11 +54,7 @@ TRNIDOM_Element TRNIDOM_Helper::findChildElement(const TRNIDOM_Node& parent, con
 
 TRNIDOM_Element TRNIDOM_Helper::findNextSiblingElement(const TRNIDOM_Node& node, const I18NString& name) {
   if (node.isNull()) return {};
-  const DOMNode* at = Access::node(node);
-  NameMatcher named(textOf(name));
-  while ((at = ops::nextSibling(at)) != nullptr)
-    if (isElement(at) && named(ops::name(at))) return Access::handle(const_cast<DOMNode*>(at), node);
-  return {};
+  return Access::handle(ops::nextElement(Access::node(node), textOf(name)), node);
 }
 
 TRNIDOM_Element TRNIDOM_Helper::findFirstElement(const TRNIDOM_Node& parent, const I18NString& name) {

@@ -25,15 +25,19 @@ namespace {
 /// Builds the tree of what the scanner finds.
 class Builder final : public XMLDocumentHandler, public XMLErrorReporter {
  public:
-  explicit Builder(DOMDocument* document) : m_document(document), m_parent(document) {}
+  explicit Builder(Control& control)
+      : m_names(control.names), m_document(control.document), m_parent(control.document) {}
 
   void startElement(const XMLElementDecl& declaration, const unsigned int, const XMLCh* const,
                     const RefVectorOf<XMLAttr>& attributes, const XMLSize_t count, const bool isEmpty,
                     const bool) override {
-    DOMNode* element = ops::newElement(m_document, declaration.getFullName());
+    const Text name = declaration.getFullName();
+    DOMNode* element = known(name, [&](const XMLCh* kept) { return ops::newElement(m_document, name, kept); });
     for (XMLSize_t i = 0; i < count; ++i) {
       const XMLAttr* attribute = attributes.elementAt(i);
-      ops::addAttribute(element, attribute->getName(), attribute->getValue());
+      const Text attributeName = attribute->getName();
+      known(attributeName,
+            [&](const XMLCh* kept) { return ops::addAttribute(element, attributeName, attribute->getValue(), kept); });
     }
     append(element);
     if (!isEmpty) m_parent = element;
@@ -79,6 +83,15 @@ class Builder final : public XMLDocumentHandler, public XMLErrorReporter {
   void endEntityReference(const XMLEntityDecl&) override {}
 
  private:
+  /// Makes a node of that name, which it hands to `make` where the document keeps it when that is known.
+  template <typename Make>
+  DOMNode* known(Text name, Make make) {
+    const XMLCh* kept = m_names.find(name);
+    DOMNode* node = make(kept);
+    if (kept == nullptr) m_names.add(ops::name(node));
+    return node;
+  }
+
   void append(DOMNode* node) {
     flushText();
     ops::link(m_parent, node, nullptr);
@@ -91,6 +104,7 @@ class Builder final : public XMLDocumentHandler, public XMLErrorReporter {
     m_text.clear();
   }
 
+  KnownNames& m_names;
   DOMDocument* m_document;
   DOMNode* m_parent;
   std::u16string m_text;
@@ -105,7 +119,7 @@ TRNIDOM_Document TRNIDOM_Parser::parseString(const std::string& bytes) {
     DocumentMemory memory;
     const MemBufInputSource source(reinterpret_cast<const XMLByte*>(bytes.data()), bytes.size(), u"document", false,
                                    &memory);
-    Builder builder(control->document);
+    Builder builder(*control);
     scan(source, builder, builder, memory);
   } catch (const OutOfMemoryException&) {
     throw std::bad_alloc();
