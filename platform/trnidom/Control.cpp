@@ -20,7 +20,7 @@ TRNIDOM_Document newDocument() {
     initializeXerces();
     auto control = std::make_unique<Control>();
     TRNIDOM_Document document = Access::handle(control->document, control.get());
-    control.release();
+    static_cast<void>(control.release());
     return document;
   });
 }

@@ -95,7 +95,7 @@ class BlockStore {
 /// Never destroyed: documents in static objects may outlive it otherwise.
 BlockStore& store() noexcept {
   alignas(BlockStore) static unsigned char place[sizeof(BlockStore)];
-  static BlockStore* const theStore = new (place) BlockStore;
+  static auto* const theStore = new (place) BlockStore;
   return *theStore;
 }
 

@@ -114,7 +114,7 @@ class Masker {
     } else if (json.is_array()) {
       for (Json& item : json) visit(item, key, secret);
     } else if (json.is_string()) {
-      std::string& text = json.get_ref<std::string&>();
+      auto& text = json.get_ref<std::string&>();
       if (secret)
         text = text.empty() ? "" : kMask;
       else if (text.compare(0, 1, "<") == 0)

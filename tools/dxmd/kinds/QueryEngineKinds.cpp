@@ -216,7 +216,7 @@ TRNIDOM_Element encodeRefineObjects(JsonObject& json, const KindOptions&) {
   std::optional<I18NLocale> locale;
   readDXEnvelope(json, refine, locale);
   const std::vector<I18NString> objectIDs = json.required("objectIDs").texts();
-  const TRNIDOM_Element element = made(refine);
+  TRNIDOM_Element element = made(refine);
   for (const I18NString& objectID : objectIDs) refine.addRequestObject(objectID);
   return element;
 }

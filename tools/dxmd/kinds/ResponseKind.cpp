@@ -51,6 +51,7 @@ std::string rowTable(const Response& response, const Columns& columns) {
   Table table(std::move(header));
   forEachRow(response, [&](const std::vector<I18NString>& values) {
     std::vector<std::string> cells;
+    cells.reserve(values.size());
     for (const I18NString& value : values) cells.push_back(value.toUtf8());
     table.addRow(std::move(cells));
   });
