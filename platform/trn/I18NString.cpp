@@ -62,7 +62,7 @@ class ShortTexts {
 
   void make(unsigned char* storage, const char16_t* text, std::size_t length) const noexcept {
     std::memcpy(storage, static_cast<const void*>(&m_texts[length]), kHead);
-    std::memcpy(storage + kHead, text, length * sizeof(char16_t));
+    if (length != 0) std::memcpy(storage + kHead, text, length * sizeof(char16_t));
     std::memset(storage + kHead + length * sizeof(char16_t), 0, sizeof(char16_t));
   }
 

@@ -1,7 +1,6 @@
 #include "DocumentMemory.h"
 
 #include <array>
-#include <cstdlib>
 #include <mutex>
 #include <new>
 #include <utility>
@@ -35,7 +34,7 @@ class BlockStore {
   /// A block of at least that size, and the size it has; null when memory is exhausted.
   std::pair<void*, std::size_t> take(std::size_t size) noexcept {
     const std::size_t shelf = shelfOf(size);
-    if (shelf == kShelves) return {std::malloc(size), size};
+    if (shelf == kShelves) return {::operator new(size, std::nothrow), size};
     size = sizeOf(shelf);
     {
       const std::lock_guard<std::mutex> lock(m_mutex);
@@ -45,7 +44,7 @@ class BlockStore {
         return {kept, size};
       }
     }
-    return {std::malloc(size), size};
+    return {::operator new(size, std::nothrow), size};
   }
 
   void giveBack(void* block, std::size_t size) noexcept {
@@ -58,7 +57,7 @@ class BlockStore {
         return;
       }
     }
-    std::free(block);
+    ::operator delete(block);
   }
 
  private:

@@ -1,53 +1,124 @@
 #include "FailingNew.h"
 
-#include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 #include <exception>
 #include <new>
 
 #include <gtest/gtest.h>
+#include <unicode/uclean.h>
 
 namespace {
 
-constexpr long kNone = -1;
+constexpr std::size_t kNever = SIZE_MAX;
 
-// Calls of `new` in this thread that succeed before one fails.
-thread_local long callsBeforeFailure = kNone;
+// Of this thread, since its run began.
+thread_local std::size_t allocations = 0;
+thread_local std::size_t firstToFail = kNever;
+thread_local std::size_t lastToFail = kNever;
+thread_local std::ptrdiff_t blocks = 0;  // allocated and not given back
+
+bool failsNow() noexcept {
+  const std::size_t number = allocations++;
+  return number >= firstToFail && number <= lastToFail && firstToFail != kNever;
+}
+
+void* allocate(std::size_t size) noexcept {
+  if (failsNow()) return nullptr;
+  void* const block = std::malloc(size == 0 ? 1 : size);
+  if (block != nullptr) ++blocks;
+  return block;
+}
+
+void release(void* block) noexcept {
+  if (block != nullptr) --blocks;
+  std::free(block);
+}
+
+void replaceIcuMemory() {
+  const auto icuAllocate = [](const void*, std::size_t size) { return allocate(size); };
+  const auto icuReallocate = [](const void*, void* block, std::size_t size) {
+    if (block == nullptr) return allocate(size);
+    return failsNow() ? nullptr : std::realloc(block, size);
+  };
+  const auto icuRelease = [](const void*, void* block) { release(block); };
+  UErrorCode status = U_ZERO_ERROR;
+  u_setMemoryFunctions(nullptr, icuAllocate, icuReallocate, icuRelease, &status);
+  ASSERT_TRUE(U_SUCCESS(status));
+}
+
+struct Run {
+  bool succeeded;
+  std::size_t allocations;
+  std::ptrdiff_t leftBehind;
+};
+
+/// Runs the action with the allocations from `first` to `last` failing.
+Run run(std::size_t first, std::size_t last, const std::function<void()>& action) {
+  bool succeeded = false;
+  const std::ptrdiff_t before = blocks;
+  allocations = 0;
+  firstToFail = first;
+  lastToFail = last;
+  try {
+    action();
+    succeeded = true;
+  } catch (const std::bad_alloc&) {
+  } catch (const std::exception& error) {
+    firstToFail = kNever;
+    ADD_FAILURE() << "a failure of allocation " << first << " became: " << error.what();
+  } catch (...) {
+    firstToFail = kNever;
+    ADD_FAILURE() << "a failure of allocation " << first << " became something that is no std::exception";
+  }
+  firstToFail = kNever;
+  return {succeeded, allocations, blocks - before};
+}
 
 }  // namespace
 
 void* operator new(std::size_t size) {
-  if (callsBeforeFailure != kNone && callsBeforeFailure-- == 0) throw std::bad_alloc();
-  void* const memory = std::malloc(size == 0 ? 1 : size);
-  if (memory == nullptr) throw std::bad_alloc();
-  return memory;
+  if (void* const block = allocate(size)) return block;
+  throw std::bad_alloc();
 }
 
-void operator delete(void* memory) noexcept {
-  std::free(memory);
+void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  return allocate(size);
 }
 
-void operator delete(void* memory, std::size_t) noexcept {
-  std::free(memory);
+void operator delete(void* block) noexcept {
+  release(block);
+}
+
+void operator delete(void* block, std::size_t) noexcept {
+  release(block);
 }
 
 namespace dxmd_test {
 
 void withEachNewFailing(const std::function<void()>& action) {
   action();  // what is made but once, such as Xerces-C's own tables, is there from now on
-  for (long calls = 0;; ++calls) {
-    bool failed = true;
-    callsBeforeFailure = calls;
-    try {
-      action();
-      failed = callsBeforeFailure == kNone;
-    } catch (const std::bad_alloc&) {
-    } catch (const std::exception& error) {
-      ADD_FAILURE() << "a failure of call " << calls << " became: " << error.what();
-    }
-    callsBeforeFailure = kNone;
-    if (!failed) return;
+  std::size_t number = 0;
+  while (run(number, number, action).allocations > number) ++number;
+}
+
+std::size_t withEachAllocationFailing(const std::function<void()>& action) {
+  static const bool replaced = (replaceIcuMemory(), true);
+  static_cast<void>(replaced);
+  for (int i = 0; i < 2; ++i) action();  // what is made once, or kept for reuse, is there from now on
+  const Run undisturbed = run(kNever, kNever, action);
+  EXPECT_TRUE(undisturbed.succeeded);
+  EXPECT_EQ(0, undisturbed.leftBehind);
+  for (std::size_t number = 0; number < undisturbed.allocations && !testing::Test::HasFailure(); ++number) {
+    EXPECT_EQ(0, run(number, number, action).leftBehind) << "allocation " << number << " failed";
+    EXPECT_EQ(0, run(number, kNever, action).leftBehind) << "allocation " << number << " and all after it failed";
   }
+  EXPECT_TRUE(run(kNever, kNever, action).succeeded) << "after all these failures";
+  return undisturbed.allocations;
+}
+
+bool failsWithoutMemory(const std::function<void()>& action) {
+  return !run(0, kNever, action).succeeded;
 }
 
 }  // namespace dxmd_test

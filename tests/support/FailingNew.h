@@ -1,15 +1,25 @@
 #ifndef TESTS_SUPPORT_FAILINGNEW_H
 #define TESTS_SUPPORT_FAILINGNEW_H
 
+#include <cstddef>
 #include <functional>
 
-// Programs that link dxmd_test_failing_new get an `operator new` that fails on demand.
+// Programs that link dxmd_test_failing_new get an `operator new`, and memory for ICU, that fail on demand, in the
+// thread that demands it.
 
 namespace dxmd_test {
 
 /// Runs the action with its first `new` failing, then with its second, and so on until it needs no more. What fails
 /// must leave the action as std::bad_alloc, if it does; the leak sanitizer sees what stays behind.
 void withEachNewFailing(const std::function<void()>& action);
+
+/// The same for an action that does all its work anew each time, and stricter: each allocation fails once alone and
+/// once with all that follow, ICU's among them, and each run must give back what it allocated. Gives the number of
+/// allocations of an undisturbed run.
+std::size_t withEachAllocationFailing(const std::function<void()>& action);
+
+/// Runs the action with every allocation failing. Whether it ended in std::bad_alloc.
+bool failsWithoutMemory(const std::function<void()>& action);
 
 }  // namespace dxmd_test
 
