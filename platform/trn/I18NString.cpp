@@ -45,8 +45,8 @@ bool isInside(const UnicodeString& text) noexcept {
   return characters - reinterpret_cast<std::uintptr_t>(&text) < sizeof text;
 }
 
-/// Terminates a text whose characters are inside the object itself. Copies are frequent enough for this to write the
-/// NUL itself; there is room, for the text had one where it came from.
+/// Terminates a text whose characters are inside the object itself; there is room, for the text had a NUL where it
+/// came from.
 void terminateShort(UnicodeString& text) noexcept {
   if (isInside(text)) const_cast<char16_t*>(text.getBuffer())[text.length()] = 0;
 }
@@ -230,12 +230,18 @@ I18NString I18NString::fromUtf16(const char16_t* text, std::size_t length) {
 }
 
 I18NString::I18NString(const char16_t* text, std::size_t length, Short) noexcept {
-  static const ShortTexts shortTexts;
-  shortTexts.make(m_storage, text, length);
+  // Never destroyed: texts are still made while static objects go.
+  alignas(ShortTexts) static unsigned char place[sizeof(ShortTexts)];
+  static const auto* const shortTexts = new (place) ShortTexts;
+  shortTexts->make(m_storage, text, length);
 }
 
 I18NString::I18NString(const I18NString& other) {
-  terminateShort(*new (m_storage) UnicodeString(icuText(other.m_storage)));
+  const UnicodeString& text = icuText(other.m_storage);
+  if (isInside(text))
+    std::memcpy(m_storage, other.m_storage, sizeof(UnicodeString));
+  else
+    new (m_storage) UnicodeString(text);
 }
 
 I18NString::I18NString(I18NString&& other) noexcept {
