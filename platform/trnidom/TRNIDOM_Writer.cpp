@@ -1,5 +1,7 @@
 #include <trnidom/TRNIDOM_Writer.h>
 
+#include <algorithm>
+
 #include <trnidom/TRNIDOM_DOMException.h>
 
 #include "Control.h"
@@ -13,6 +15,9 @@ namespace {
 
 /// What stands for itself and what does not, by the place a text is written in.
 enum class Place { kText, kAttribute, kVerbatim };
+
+/// Levels below this one are indented like it, so that the size of what is written stays linear in the tree's.
+constexpr std::size_t kDeepest = 100;
 
 class Writer {
  public:
@@ -141,7 +146,7 @@ class Writer {
   void newLine() {
     if (m_options.indent == 0 || m_verbatim != 0) return;
     m_out += '\n';
-    m_out.append(m_depth * m_options.indent, ' ');
+    m_out.append(std::min(m_depth, kDeepest) * m_options.indent, ' ');
   }
 
   void name(const DOMNode* node) {

@@ -12,7 +12,7 @@ class TRNIDOM_API TRNIDOM_Writer {
   struct Options {
     Options() noexcept : indent(0), declaration(false) {}
 
-    unsigned indent;   ///< spaces per level, never inside mixed content; 0 writes no white space of its own
+    unsigned indent;   ///< spaces per level down to a hundred, never inside mixed content; 0 writes none
     bool declaration;  ///< whether to begin with the XML declaration
   };
 

@@ -12,7 +12,7 @@ namespace trnidom_detail {
 
 static_assert(std::is_same_v<XMLCh, char16_t>, "Xerces-C and the core library share one UTF-16 type");
 
-/// UTF-16 by pointer and length, NUL-terminated wherever it is handed to Xerces-C.
+/// UTF-16 by pointer and length. Behind a name or a text that is handed on to Xerces-C there is a NUL.
 using Text = std::u16string_view;
 
 inline Text textOf(const I18NString& string) noexcept {
@@ -27,11 +27,12 @@ inline Text textOf(const XMLCh* text) noexcept {
   return text != nullptr ? Text(text) : Text();
 }
 
-/// Whether a NUL-terminated name is that name. A name with a NUL in it is no node's.
+/// Whether a node's name is that name, behind which there is a NUL. A name with a NUL in it is no node's.
 inline bool isName(const XMLCh* candidate, Text name) noexcept {
-  for (const char16_t unit : name)
-    if (*candidate++ != unit || unit == 0) return false;
-  return *candidate == 0;
+  const XMLCh* at = name.data();
+  for (; *at == *candidate; ++at, ++candidate)
+    if (*at == 0) return at == name.data() + name.size();
+  return false;
 }
 
 /// Compares names of one document with a name. A document keeps equal names at few addresses, so that most names are
