@@ -36,7 +36,9 @@ class KnownNames {
   }
 
  private:
-  static std::size_t slot(Text name) noexcept { return (name.size() * 5 + name.front() + name.back() * 3U) % kSlots; }
+  static std::size_t slot(Text name) noexcept {
+    return (name.size() * 5 + name.front() + std::size_t{name.back()} * 3) % kSlots;
+  }
 
   static constexpr std::size_t kSlots = 64;
   std::array<Text, kSlots> m_names{};

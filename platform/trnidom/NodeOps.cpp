@@ -4,8 +4,6 @@
 // the dynamic casts that most of the time of a tree built through the public interface goes into. The state left behind
 // is the one that the public interface leaves: whatever is not done here is done through it on the same nodes.
 
-#include <cstdint>
-
 #include <xercesc/dom/impl/DOMAttrImpl.hpp>
 #include <xercesc/dom/impl/DOMAttrMapImpl.hpp>
 #include <xercesc/dom/impl/DOMCDATASectionImpl.hpp>
@@ -58,9 +56,8 @@ void fetchAhead(const DOMNode* element) noexcept {
   constexpr std::size_t kLine = 64;
   constexpr std::size_t kAhead = 25;  // about three elements with an attribute
   constexpr std::size_t kLines = 9;   // about one of them
-  const auto at = reinterpret_cast<std::uintptr_t>(element);
-  for (std::size_t line = kAhead; line < kAhead + kLines; ++line)
-    __builtin_prefetch(reinterpret_cast<const void*>(at + line * kLine));
+  const auto* at = reinterpret_cast<const unsigned char*>(element);
+  for (std::size_t line = kAhead; line < kAhead + kLines; ++line) __builtin_prefetch(at + line * kLine);
 }
 
 DOMElementImpl* asElement(const DOMNode* node) noexcept {
@@ -80,9 +77,14 @@ DOMDocumentImpl* as(DOMDocument* document) noexcept {
   return static_cast<DOMDocumentImpl*>(document);
 }
 
+bool canBeChild(const DOMNode* node) noexcept {
+  const auto type = node->getNodeType();
+  return type != DOMNode::ATTRIBUTE_NODE && type != DOMNode::DOCUMENT_NODE;
+}
+
 /// What a node has that can be a child.
 struct Child {
-  DOMNodeImpl* node;  // null for a node that cannot
+  DOMNodeImpl* node;
   DOMChildNode* siblings;
 };
 
@@ -98,12 +100,10 @@ Child childOf(const DOMNode* node) noexcept {
       auto* impl = as<DOMCDATASectionImpl>(node);
       return {&Leaf<DOMCDATASectionImpl>::node(impl), &Leaf<DOMCDATASectionImpl>::child(impl)};
     }
-    case DOMNode::PROCESSING_INSTRUCTION_NODE: {
+    default: {  // a processing instruction: there are no others
       auto* impl = as<DOMProcessingInstructionImpl>(node);
       return {&Leaf<DOMProcessingInstructionImpl>::node(impl), &Leaf<DOMProcessingInstructionImpl>::child(impl)};
     }
-    default:
-      return {nullptr, nullptr};
   }
 }
 
@@ -199,8 +199,9 @@ DOMAttrImpl* makeAttribute(DOMDocumentImpl* document, Text name, Text value, con
 }  // namespace
 
 DOMNode* parent(const DOMNode* node) noexcept {
+  if (!canBeChild(node)) return nullptr;
   const DOMNodeImpl* impl = childOf(node).node;
-  return impl != nullptr && impl->isOwned() ? impl->fOwnerNode : nullptr;
+  return impl->isOwned() ? impl->fOwnerNode : nullptr;
 }
 
 DOMNode* firstChild(const DOMNode* node) noexcept {
@@ -213,8 +214,9 @@ DOMNode* lastChild(const DOMNode* node) noexcept {
 }
 
 DOMNode* previousSibling(const DOMNode* node) noexcept {
+  if (!canBeChild(node)) return nullptr;
   const Child child = childOf(node);
-  return child.node == nullptr || child.node->isFirstChild() ? nullptr : child.siblings->previousSibling;
+  return child.node->isFirstChild() ? nullptr : child.siblings->previousSibling;
 }
 
 DOMNode* nextSibling(const DOMNode* node) noexcept {

@@ -111,6 +111,8 @@ class RandomRun {
     }
   }
 
+  void checkReadBack() { EXPECT_EQ(m_root->xml(), xmlOf(parsed(m_root->xml()))); }
+
   void check() {
     ASSERT_EQ(m_root->xml(), xmlOf(m_root->handle));
     for (std::size_t i = 0; i < m_lists.size(); ++i) {
@@ -314,5 +316,6 @@ TEST(Random, OperationsDoWhatTheyDoToAPlainModel) {
       run.check();
       if (HasFatalFailure()) return;
     }
+    run.checkReadBack();
   }
 }

@@ -54,6 +54,14 @@ TEST(Handles, KeepTheWholeDocumentAlive) {
   EXPECT_EQ("<a>kept</a>", xmlOf(text.getOwnerDocument()));
 }
 
+TEST(Handles, MapsAndCursorsKeepItAliveToo) {
+  TRNIDOM_NamedNodeMap map = parsed("<a x='1' y='2'/>").getAttributes();
+  TRNIDOM_Node cursor = parsed("<a><b/><c/></a>").getFirstChild();
+  cursor = cursor.getNextSibling();
+  EXPECT_EQ("2", map.getNamedItem("y").getNodeValue().toUtf8());
+  expectXml("<a><b/><c/></a>", cursor.getParentNode());
+}
+
 TEST(Handles, EqualMeansTheSameNode) {
   const TRNIDOM_Element a = parsed("<a><b/><b/></a>");
   EXPECT_EQ(a.getFirstChild(), a.getLastChild().getPreviousSibling());
@@ -214,6 +222,21 @@ TEST(Placeholder, GivesWayWhereverTheElementGoes) {
   document = newDocument();
   document.replaceChild(document.createElement("real"), document.getDocumentElement());
   expectXml("<real/>", document);
+}
+
+TEST(Placeholder, RemainsUsableOnceItGaveWay) {
+  TRNIDOM_Element placeholder;
+  {
+    TRNIDOM_Document document = newDocument();
+    placeholder = document.getDocumentElement();
+    document.appendChild(document.createElement("real"));
+  }
+  EXPECT_TRUE(placeholder.getNextSibling().isNull() && placeholder.getPreviousSibling().isNull());
+  TRNIDOM_Document document = placeholder.getOwnerDocument();
+  placeholder.setAttribute("x", "1");
+  placeholder.appendChild(document.createTextNode("t"));
+  document.getDocumentElement().appendChild(placeholder);
+  expectXml("<real><requestDoc x=\"1\">t</requestDoc></real>", document);
 }
 
 TEST(Placeholder, LeavesAnElementBesideItUnattached) {
