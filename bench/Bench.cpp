@@ -107,8 +107,8 @@ std::string table() {
     for (const Side& side : workload.sides) {
       if (side.nanoseconds == std::numeric_limits<double>::infinity()) continue;
       out << "| " << workload.name << " | " << side.name << " | " << timeText(side.nanoseconds) << " | "
-          << (&side == &ours ? "" : number(ours.nanoseconds / side.nanoseconds)) << " | " << bytesText(side.peakBytes)
-          << " |\n";
+          << (&side == &ours ? "" : number(ours.nanoseconds / side.nanoseconds)) << " | "
+          << (side.peakBytes == 0 ? "" : bytesText(side.peakBytes)) << " |\n";
     }
   }
   return out.str();
@@ -130,7 +130,7 @@ void keep(const void* result) {
 
 }  // namespace bench
 
-// Runs the benchmarks; with --table=FILE the results are written there as a Markdown table.
+// Runs the benchmarks; with --table=FILE memory is measured as well, and all is written there as a Markdown table.
 int main(int argc, char** argv) {
   std::string tableFile;
   const std::string option = "--table=";
@@ -151,7 +151,7 @@ int main(int argc, char** argv) {
 
   for (Workload& workload : workloads()) {
     for (Side& side : workload.sides) {
-      side.peakBytes = peakOf(side.prepare);
+      if (!tableFile.empty()) side.peakBytes = peakOf(side.prepare);
       benchmark::RegisterBenchmark((workload.name + "/" + side.name).c_str(), [&side](benchmark::State& state) {
         const bench::Work work = side.prepare();
         for (auto iteration : state) {
