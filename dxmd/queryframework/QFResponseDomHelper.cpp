@@ -99,7 +99,5 @@ TRNIDOM_Element QFResponseDomHelper::GetNextResultSetRow(TRNIDOM_Element row) co
 }
 
 void QFResponseDomHelper::GetResultSetRowValues(TRNIDOM_Element row, std::vector<I18NString>& values) const {
-  TRNIDOM_Element value = TRNIDOM_Helper::findChildElement(row, STR_value);
-  for (; !value.isNull(); value = TRNIDOM_Helper::findNextSiblingElement(value, STR_value))
-    values.push_back(value.getAttribute(STR_v));
+  TRNIDOM_Helper::getChildAttributes(row, STR_value, STR_v, values);
 }

@@ -115,6 +115,19 @@ TRNIDOM_Node TRNIDOM_Helper::appendText(const TRNIDOM_Node& parent, const I18NSt
   return appendNew(kTried, parent, newText(kTried, requireNode(kTried, parent), text));
 }
 
+void TRNIDOM_Helper::getChildAttributes(const TRNIDOM_Node& parent, const I18NString& name, const I18NString& attrName,
+                                        std::vector<I18NString>& values) {
+  if (parent.isNull()) return;
+  const DOMNode* node = Access::node(parent);
+  NameMatcher named(textOf(name));
+  const Text attribute = textOf(attrName);
+  guarded("getChildAttributes", node, [&] {
+    for (const DOMNode* child = ops::firstChild(node); child != nullptr; child = ops::nextSibling(child))
+      if (isElement(child) && named(ops::name(child)))
+        values.push_back(stringOf(ops::attributeValue(child, attribute)));
+  });
+}
+
 I18NString TRNIDOM_Helper::getElementText(const TRNIDOM_Node& element) {
   if (element.getNodeType() != TRNIDOM_Node::ELEMENT_NODE) return {};
   const DOMNode* first = nullptr;

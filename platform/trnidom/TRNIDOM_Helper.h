@@ -1,6 +1,8 @@
 #ifndef TRNIDOM_TRNIDOM_HELPER_H
 #define TRNIDOM_TRNIDOM_HELPER_H
 
+#include <vector>
+
 #include <trn/I18NString.h>
 #include <trnidom/TRNIDOM_Element.h>
 #include <trnidom/TRNIDOM_Export.h>
@@ -44,6 +46,10 @@ class TRNIDOM_API TRNIDOM_Helper {
 
   /// Appends a new text node in the same way, also when the text is empty.
   static TRNIDOM_Node appendText(const TRNIDOM_Node& parent, const I18NString& text);
+
+  /// Appends that attribute of each child element of that name; an absent one is empty.
+  static void getChildAttributes(const TRNIDOM_Node& parent, const I18NString& name, const I18NString& attrName,
+                                 std::vector<I18NString>& values);
 
   /// The text and CDATA children, concatenated; empty when there are none.
   static I18NString getElementText(const TRNIDOM_Node& element);
