@@ -15,8 +15,8 @@
 /// neither child nor attribute: the first other element appended to the document takes its place, and handles to it
 /// stay valid and are then detached. Appending beside a real document element is `HIERARCHY_REQUEST_ERR`.
 ///
-/// Creating on a null document throws TRNIDOM_DOMException, as does a malformed name (`INVALID_CHARACTER_ERR`).
-/// What is created belongs to this document and has no parent.
+/// Creating on a null document throws TRNIDOM_DOMException, as does a malformed name, and a text with U+0000, which no
+/// DOM can hold (`INVALID_CHARACTER_ERR`). What is created belongs to this document and has no parent.
 class TRNIDOM_API TRNIDOM_Document : public TRNIDOM_Node {
  public:
   TRNIDOM_Document() noexcept = default;
@@ -28,7 +28,8 @@ class TRNIDOM_API TRNIDOM_Document : public TRNIDOM_Node {
   TRNIDOM_Node createComment(const I18NString& data);
   TRNIDOM_Node createCDATASection(const I18NString& data);
 
-  /// A copy of a node of any document, belonging to this one; children go along when `deep`. Null gives null.
+  /// A copy of a node of any document, belonging to this one; children go along when `deep`. Null gives null. A
+  /// document cannot be imported (`NOT_SUPPORTED_ERR`).
   TRNIDOM_Node importNode(const TRNIDOM_Node& node, bool deep);
 
   TRNIDOM_Element getDocumentElement() const noexcept;

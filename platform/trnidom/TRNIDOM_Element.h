@@ -25,7 +25,8 @@ class TRNIDOM_API TRNIDOM_Element : public TRNIDOM_Node {
   bool hasAttribute(const I18NString& name) const noexcept;
 
   /// Adds the attribute or replaces its value.
-  /// @throws TRNIDOM_DOMException on a null handle, on a node that is no element, and for a malformed name.
+  /// @throws TRNIDOM_DOMException on a null handle, on a node that is no element, for a malformed name, and for a value
+  ///         with U+0000, which no DOM can hold.
   void setAttribute(const I18NString& attrName, const I18NString& attrValue);
 
   /// Does nothing when the attribute is absent.

@@ -132,6 +132,7 @@ class TRNIDOM_API TRNIDOM_Node {
   TRNIDOM_Document getOwnerDocument() const noexcept;
 
   /// Does nothing on a kind of node that has no value.
+  /// @throws TRNIDOM_DOMException `INVALID_CHARACTER_ERR` for U+0000, which no DOM can hold.
   void setNodeValue(const I18NString& value);
 
   /// Appends the node, moving it from where it stood, and returns it.
@@ -146,7 +147,8 @@ class TRNIDOM_API TRNIDOM_Node {
   /// Returns the node that was removed.
   TRNIDOM_Node removeChild(const TRNIDOM_Node& oldChild);
 
-  /// A copy in the same document, without a parent; attributes always go along, children only when `deep`.
+  /// A copy in the same document, without a parent; attributes always go along, children only when `deep`. The copy of
+  /// a document is a document of its own.
   TRNIDOM_Node cloneNode(bool deep) const;
 
  private:

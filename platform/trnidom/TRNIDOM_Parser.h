@@ -6,7 +6,7 @@
 #include <trnidom/TRNIDOM_Document.h>
 #include <trnidom/TRNIDOM_Export.h>
 
-/// Parses documents.
+/// Parses documents of XML 1.0.
 ///
 /// The encoding is that of the document's own declaration or byte order mark. Prefixes need no declaration. Each run of
 /// characters is one text node; white space, comments and CDATA sections are kept as nodes. Nothing outside the
