@@ -21,14 +21,14 @@ class DXMD_API DXAnalyzeResponseIssueHelper {
   DXAnalyzeResponseIssueHelper(const DXAnalyzeResponseIssueHelper&) = delete;
   DXAnalyzeResponseIssueHelper& operator=(const DXAnalyzeResponseIssueHelper&) = delete;
 
-  /// Appends an object and returns it for the caller to add related objects. Valid as long as the issue.
+  /// Appends an object and returns it for the caller to add related objects. Valid as long as this one.
   DXAnalyzeResponseIssueObjectHelper* AddObject(const I18NString& name, const I18NString& id,
                                                 const I18NString& className, const I18NString& path,
                                                 const I18NString& refclass,
                                                 DXAnalyzeResponseIssueObjectHelper::ESubType subtype,
                                                 const std::vector<I18NString>& messages);
 
-  /// The objects in the order added; they stay owned by the issue.
+  /// The objects in the order added; they stay owned by this one.
   const std::vector<DXAnalyzeResponseIssueObjectHelper*>& GetObjects() const { return m_objects.items(); }
 
   /// Hands back a new "issue" with its objects.

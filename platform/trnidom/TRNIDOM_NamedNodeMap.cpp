@@ -28,5 +28,5 @@ TRNIDOM_NamedNodeMap::iterator TRNIDOM_NamedNodeMap::begin() const {
 }
 
 TRNIDOM_NamedNodeMap::iterator TRNIDOM_NamedNodeMap::end() const {
-  return {this, getLength()};
+  return {this, iterator::kEnd};
 }

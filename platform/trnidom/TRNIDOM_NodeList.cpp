@@ -106,12 +106,9 @@ TRNIDOM_NodeList::iterator TRNIDOM_NodeList::begin() const {
 }
 
 TRNIDOM_NodeList::iterator TRNIDOM_NodeList::end() const {
-  return {this, kEnd};
+  return {this, iterator::kEnd};
 }
 
-bool TRNIDOM_NodeList::iterator::equals(const iterator& other) const {
-  const auto atEnd = [](const iterator& at) {
-    return at.m_index == kEnd || at.m_list->m_record == nullptr || at.m_list->m_record->at(at.m_index) == nullptr;
-  };
-  return m_index == other.m_index || (atEnd(*this) && atEnd(other));
+bool TRNIDOM_NodeList::isAtEnd(std::size_t index) const {
+  return m_record == nullptr || m_record->at(index) == nullptr;
 }

@@ -2,9 +2,9 @@
 #define TRNIDOM_TRNIDOM_NODELIST_H
 
 #include <cstddef>
-#include <iterator>
 
 #include <trnidom/TRNIDOM_Export.h>
+#include <trnidom/TRNIDOM_IndexIterator.h>
 #include <trnidom/TRNIDOM_Node.h>
 
 namespace trnidom_detail {
@@ -18,7 +18,7 @@ struct ListRecord;
 /// keeps its document alive. Iterating while changing the structure of the tree visits what stands at the next index.
 class TRNIDOM_API TRNIDOM_NodeList {
  public:
-  class iterator;
+  using iterator = TRNIDOM_IndexIterator<TRNIDOM_NodeList>;
   using const_iterator = iterator;
 
   /// The empty list.
@@ -38,42 +38,12 @@ class TRNIDOM_API TRNIDOM_NodeList {
 
  private:
   friend struct trnidom_detail::Access;
+  friend iterator;
+
   explicit TRNIDOM_NodeList(trnidom_detail::ListRecord* record) noexcept : m_record(record) {}
+  bool isAtEnd(std::size_t index) const;
 
   trnidom_detail::ListRecord* m_record = nullptr;
-};
-
-/// Walks a node list by index; valid as long as the list it came from.
-class TRNIDOM_API TRNIDOM_NodeList::iterator {
- public:
-  using iterator_category = std::input_iterator_tag;
-  using value_type = TRNIDOM_Node;
-  using difference_type = std::ptrdiff_t;
-  using pointer = const TRNIDOM_Node*;
-  using reference = TRNIDOM_Node;
-
-  TRNIDOM_Node operator*() const { return m_list->item(m_index); }
-  iterator& operator++() noexcept {
-    ++m_index;
-    return *this;
-  }
-  iterator operator++(int) noexcept {
-    iterator before(*this);
-    ++m_index;
-    return before;
-  }
-
-  /// Two iterators are equal at the same index; an iterator past the list's current end equals the end.
-  friend bool operator==(const iterator& left, const iterator& right) { return left.equals(right); }
-  friend bool operator!=(const iterator& left, const iterator& right) { return !left.equals(right); }
-
- private:
-  friend class TRNIDOM_NodeList;
-  iterator(const TRNIDOM_NodeList* list, std::size_t index) noexcept : m_list(list), m_index(index) {}
-  bool equals(const iterator& other) const;
-
-  const TRNIDOM_NodeList* m_list;
-  std::size_t m_index;
 };
 
 #endif
