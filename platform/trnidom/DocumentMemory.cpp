@@ -96,7 +96,7 @@ class BlockStore {
   /// blocks from end to end. Where that is not possible the pages come one by one.
   static void fill(void* block, std::size_t size) noexcept {
 #if defined(MADV_POPULATE_WRITE)
-    static const std::size_t page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    static const auto page = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
     const std::size_t before = -reinterpret_cast<std::uintptr_t>(block) % page;
     madvise(static_cast<unsigned char*>(block) + before, (size - before) / page * page, MADV_POPULATE_WRITE);
 #else
