@@ -55,6 +55,7 @@ class TRN_API I18NString {
   /// The text as UTF-8; a lone surrogate becomes U+FFFD.
   std::string toUtf8() const;
 
+  /// @throws std::bad_alloc, and this text is empty then.
   I18NString& operator+=(const I18NString& other);
 
   friend I18NString operator+(const I18NString& left, const I18NString& right) {
