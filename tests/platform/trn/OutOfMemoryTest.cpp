@@ -46,7 +46,7 @@ class TextOutOfMemory : public testing::Test {
 TEST_F(TextOutOfMemory, BuildingIsRefused) {
   expectBadAlloc([&] { I18NString::fromUtf16(units.data(), units.size()); });
   expectBadAlloc([&] { I18NString text(bytes.c_str()); });
-  expectBadAlloc([&] { I18NString text(bytes.c_str(), "Shift_JIS"); });
+  // ICU remembers for good that it could not load its own data, so that is there before memory runs out.
   I18NString("warm up", "Shift_JIS");
   expectBadAlloc([&] { I18NString text(bytes.c_str(), "Shift_JIS"); });
 }
