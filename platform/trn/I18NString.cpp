@@ -219,21 +219,18 @@ I18NString::I18NString(const char* text, const char* encoding, long length, Conv
   }
 }
 
-I18NString I18NString::fromUtf16(const char16_t* text, std::size_t length) {
-  if (length < kShortLength) return I18NString(text, length, Short());
-  I18NString result;
-  UnicodeString& target = icuText(result.m_storage);
-  char16_t* const buffer = openBuffer(target, length);
-  std::copy_n(text, length, buffer);
-  closeBuffer(target, buffer, length);
-  return result;
-}
-
-I18NString::I18NString(const char16_t* text, std::size_t length, Short) noexcept {
-  // Never destroyed: texts are still made while static objects go.
-  alignas(ShortTexts) static unsigned char place[sizeof(ShortTexts)];
-  static const auto* const shortTexts = new (place) ShortTexts;
-  shortTexts->make(m_storage, text, length);
+I18NString::I18NString(std::u16string_view text) {
+  if (text.size() < kShortLength) {
+    // Never destroyed: texts are still made while static objects go.
+    alignas(ShortTexts) static unsigned char place[sizeof(ShortTexts)];
+    static const auto* const shortTexts = new (place) ShortTexts;
+    shortTexts->make(m_storage, text.data(), text.size());
+    return;
+  }
+  UnicodeString& target = *new (m_storage) UnicodeString;  // holds nothing when there is no memory for more
+  char16_t* const buffer = openBuffer(target, text.size());
+  std::copy_n(text.data(), text.size(), buffer);
+  closeBuffer(target, buffer, text.size());
 }
 
 I18NString::I18NString(const I18NString& other) {
@@ -275,6 +272,11 @@ std::size_t I18NString::length() const noexcept {
 
 const char16_t* I18NString::c_str() const noexcept {
   return icuText(m_storage).getBuffer();
+}
+
+std::u16string_view I18NString::view() const noexcept {
+  const UnicodeString& text = icuText(m_storage);
+  return {text.getBuffer(), static_cast<std::size_t>(text.length())};
 }
 
 std::string I18NString::toUtf8() const {

@@ -5,6 +5,7 @@
 #include <functional>
 #include <iosfwd>
 #include <string>
+#include <string_view>
 
 #include <trn/TRNExport.h>
 
@@ -35,8 +36,13 @@ class TRN_API I18NString {
   I18NString(const char* text, const char* encoding = nullptr, long length = -1,  // NOLINT: implicit by design
              ConversionCallback callback = nullptr, void* context = nullptr);
 
+  /// The text of those UTF-16 code units.
+  explicit I18NString(std::u16string_view text);
+
   /// The text of `length` UTF-16 code units; null text with length 0 is empty.
-  static I18NString fromUtf16(const char16_t* text, std::size_t length);
+  static I18NString fromUtf16(const char16_t* text, std::size_t length) {
+    return I18NString(std::u16string_view(text, length));
+  }
 
   I18NString(const I18NString& other);
   I18NString(I18NString&& other) noexcept;
@@ -51,6 +57,9 @@ class TRN_API I18NString {
 
   /// The text as NUL-terminated UTF-16, valid while this object is unchanged.
   const char16_t* c_str() const noexcept;
+
+  /// The same with its length; a NUL follows.
+  std::u16string_view view() const noexcept;
 
   /// The text as UTF-8; a lone surrogate becomes U+FFFD.
   std::string toUtf8() const;
@@ -70,9 +79,6 @@ class TRN_API I18NString {
   friend bool operator<(const I18NString& left, const I18NString& right) noexcept { return left.precedes(right); }
 
  private:
-  struct Short {};
-  I18NString(const char16_t* text, std::size_t length, Short) noexcept;
-
   bool equals(const I18NString& other) const noexcept;
   bool precedes(const I18NString& other) const noexcept;
 

@@ -16,11 +16,11 @@ static_assert(std::is_same_v<XMLCh, char16_t>, "Xerces-C and the core library sh
 using Text = std::u16string_view;
 
 inline Text textOf(const I18NString& string) noexcept {
-  return {string.c_str(), string.length()};
+  return string.view();
 }
 
 inline I18NString stringOf(Text text) {
-  return I18NString::fromUtf16(text.data(), text.size());
+  return I18NString(text);
 }
 
 inline Text textOf(const XMLCh* text) noexcept {

@@ -21,7 +21,7 @@ I18NString fromUtf16(const std::u16string& text) {
 }
 
 std::u16string toUtf16(const I18NString& text) {
-  return {text.c_str(), text.length()};
+  return std::u16string(text.view());
 }
 
 /// The malformed sequences that a conversion told of, as hexadecimal bytes.
@@ -124,6 +124,7 @@ TEST(I18NString, IsTerminatedHoweverItCameAbout) {
   for (const std::u16string& units : textsOfAllSizes()) {
     SCOPED_TRACE(units.size());
     const I18NString built = fromUtf16(units);
+    const I18NString viewed(built.view());
     const I18NString converted(built.toUtf8().c_str());
     const I18NString copied(built);
     I18NString assigned("something else that is long enough to be on the heap");
@@ -134,7 +135,7 @@ TEST(I18NString, IsTerminatedHoweverItCameAbout) {
     I18NString moveAssigned("x");
     moveAssigned = std::move(second);
     using Texts = std::initializer_list<const I18NString*>;
-    for (const I18NString* text : Texts{&built, &converted, &copied, &assigned, &moved, &moveAssigned}) {
+    for (const I18NString* text : Texts{&built, &viewed, &converted, &copied, &assigned, &moved, &moveAssigned}) {
       EXPECT_EQ(units, text->c_str());
       EXPECT_EQ(units, toUtf16(*text));
     }
