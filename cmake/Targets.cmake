@@ -24,11 +24,14 @@ function(dxmd_add_library target alias output)
     OUTPUT_NAME ${output} EXPORT_NAME ${export_name} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
   dxmd_target_options(${target})
   set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
-  target_compile_options(${target} PRIVATE -fno-semantic-interposition)
+  # Calls within a library are not for others to redirect, and those into Xerces-C, millions for a large document, need
+  # no stub to be bound late.
+  target_compile_options(${target} PRIVATE -fno-semantic-interposition -fno-plt)
   # A sanitizer's own symbols are in the program, as clang has it, so that its libraries must leave them undefined.
   if(NOT DXMD_SANITIZE)
     set(exports ${CMAKE_CURRENT_SOURCE_DIR}/exports.map)
-    target_link_options(${target} PRIVATE LINKER:--no-undefined LINKER:--version-script=${exports})
+    target_link_options(${target} PRIVATE
+      LINKER:--no-undefined LINKER:-Bsymbolic-functions LINKER:--version-script=${exports})
     set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${exports})
   endif()
 endfunction()
