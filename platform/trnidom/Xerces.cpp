@@ -44,17 +44,21 @@ struct Panic final : xercesc::PanicHandler {
   void panic(const PanicReasons) override { throw std::bad_alloc(); }
 };
 
-/// Looks at four code units at a time.
+/// Looks at four code units at a time, and once more at the last four.
 bool hasNul(Text text) noexcept {
   constexpr std::uint64_t kOnes = 0x0001000100010001;
   constexpr std::size_t kUnits = sizeof(kOnes) / sizeof(char16_t);
-  std::size_t at = 0;
-  for (; at + kUnits <= text.size(); at += kUnits) {
+  if (text.size() < kUnits) return text.find(u'\0') != Text::npos;
+  std::uint64_t found = 0;
+  const auto look = [&found](const char16_t* at) {
     std::uint64_t units;
-    std::memcpy(&units, text.data() + at, sizeof units);
-    if (((units - kOnes) & ~units & kOnes << 15) != 0) return true;
-  }
-  return text.find(u'\0', at) != Text::npos;
+    std::memcpy(&units, at, sizeof units);
+    found |= (units - kOnes) & ~units;
+  };
+  const char16_t* const last = text.data() + text.size() - kUnits;
+  for (const char16_t* at = text.data(); at < last; at += kUnits) look(at);
+  look(last);
+  return (found & kOnes << 15) != 0;
 }
 
 }  // namespace
