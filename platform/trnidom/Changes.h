@@ -40,7 +40,7 @@ xercesc::DOMNode* newElement(const char* tried, Control* control, const I18NStri
 /// A new text of the document. Checks the text.
 xercesc::DOMNode* newText(const char* tried, Control* control, const I18NString& text);
 
-/// Appends a node of the parent's document that was just made: it has neither parent nor children.
+/// Appends a node of the parent's document that was just made: it has no parent, and the parent is not below it.
 TRNIDOM_Node appendNew(const char* tried, const TRNIDOM_Node& parent, xercesc::DOMNode* child);
 
 }  // namespace trnidom_detail

@@ -15,7 +15,6 @@
 #include <xercesc/dom/impl/DOMStringPool.hpp>
 #include <xercesc/dom/impl/DOMTextImpl.hpp>
 #include <xercesc/util/OutOfMemoryException.hpp>
-#include <xercesc/util/XMLUni.hpp>
 #include <xercesc/util/XercesVersion.hpp>
 
 #include "NodeOps.h"
@@ -39,7 +38,7 @@ constexpr XMLSize_t kFewNames = 8;
 // What is protected is reached as a derived class may reach it.
 
 struct AttrMap : DOMAttrMapImpl {
-  static DOMNodeVector* nodes(const DOMAttrMapImpl* map) noexcept { return map->*&AttrMap::fNodes; }
+  static DOMNodeVector*& nodes(DOMAttrMapImpl* map) noexcept { return map->*&AttrMap::fNodes; }
 };
 
 template <typename Impl>
@@ -77,6 +76,10 @@ DOMDocumentImpl* as(DOMDocument* document) noexcept {
   return static_cast<DOMDocumentImpl*>(document);
 }
 
+bool isElement(const DOMNode* node) noexcept {
+  return node->getNodeType() == DOMNode::ELEMENT_NODE;
+}
+
 bool canBeChild(const DOMNode* node) noexcept {
   const auto type = node->getNodeType();
   return type != DOMNode::ATTRIBUTE_NODE && type != DOMNode::DOCUMENT_NODE;
@@ -108,8 +111,7 @@ Child childOf(const DOMNode* node) noexcept {
 }
 
 /// Appends a node without a parent to an element or attribute.
-void append(DOMNode* parent, DOMParentNode& children, DOMNode* child) noexcept {
-  const Child appended = childOf(child);
+void append(DOMNode* parent, DOMParentNode& children, DOMNode* child, Child appended) noexcept {
   appended.node->fOwnerNode = parent;
   appended.node->isOwned(true);
   if (children.fFirstChild == nullptr) {
@@ -120,7 +122,7 @@ void append(DOMNode* parent, DOMParentNode& children, DOMNode* child) noexcept {
     // The first child's previous sibling is the last child.
     DOMChildNode* first = childOf(children.fFirstChild).siblings;
     DOMNode* last = first->previousSibling;
-    childOf(last).siblings->nextSibling = child;
+    (last == children.fFirstChild ? first : childOf(last).siblings)->nextSibling = child;
     appended.siblings->previousSibling = last;
     first->previousSibling = child;
   }
@@ -142,7 +144,8 @@ struct Place {
 };
 
 Place place(DOMNodeVector* attributes, Text name) noexcept {
-  const XMLSize_t count = attributes != nullptr ? attributes->size() : 0;
+  if (attributes == nullptr) return {0, nullptr};
+  const XMLSize_t count = attributes->size();
   XMLSize_t first = 0;
   XMLSize_t last = count;
   while (last - first > kFewNames) {
@@ -183,16 +186,35 @@ void setData(DOMCharacterDataImpl& data, Text value) {
   }
 }
 
+/// Constructs a node in the document's memory. Its own operator new would first look for a node of that kind that was
+/// released; there is none.
+template <typename Impl, typename... Arguments>
+Impl* construct(DOMDocumentImpl* document, Arguments... arguments) {
+  return ::new (document->DOMDocumentImpl::allocate(sizeof(Impl))) Impl(document, arguments...);
+}
+
+/// A text is made with room to grow by so many code units. One that is shorter than that gets no more room, which saves
+/// a twentieth of the memory of a document of many short values.
+constexpr XMLSize_t kRoomToGrow = 15;
+
+DOMTextImpl* makeText(DOMDocumentImpl* document, Text data) {
+  if (data.size() >= kRoomToGrow) return construct<DOMTextImpl>(document, data.data(), data.size());
+  auto* text = construct<DOMTextImpl>(document, data.data(), XMLSize_t{0});
+  text->fCharacterData.fDataBuf->set(data.data(), data.size());
+  return text;
+}
+
 /// The name to construct a node with, which looks it up among those that the document keeps. That takes a while, and
-/// is saved when the name is known: then the empty name is looked up and replaced.
+/// is saved when the name is known: then none is looked up, and the name is set.
 const XMLCh* lookedUp(Text name, const XMLCh* kept) noexcept {
-  return kept != nullptr ? XMLUni::fgZeroLenString : name.data();
+  return kept != nullptr ? nullptr : name.data();
 }
 
 DOMAttrImpl* makeAttribute(DOMDocumentImpl* document, Text name, Text value, const XMLCh* kept) {
-  auto* attribute = new (document, DOMMemoryManager::ATTR_OBJECT) DOMAttrImpl(document, lookedUp(name, kept));
+  auto* attribute = construct<DOMAttrImpl>(document, lookedUp(name, kept));
   if (kept != nullptr) attribute->fName = kept;
-  append(attribute, attribute->fParent, newText(document, value));
+  DOMTextImpl* text = makeText(document, value);
+  append(attribute, attribute->fParent, text, {&text->fNode, &text->fChild});
   return attribute;
 }
 
@@ -223,18 +245,20 @@ DOMNode* nextSibling(const DOMNode* node) noexcept {
   return node->getNextSibling();
 }
 
-DOMNode* nextElement(const DOMNode* node, Text name) noexcept {
-  NameMatcher named(name);
-  DOMNode* next = node->getNextSibling();
-  while (next != nullptr) {
-    if (next->getNodeType() == DOMNode::ELEMENT_NODE) {
-      if (named(asElement(next)->fName)) return next;
-      next = asElement(next)->fChild.nextSibling;
-    } else {
-      next = next->getNextSibling();
-    }
+DOMNode* firstElement(const DOMNode* parent, NameMatcher& named) noexcept {
+  DOMNode* first = parent->getFirstChild();
+  if (first == nullptr || (isElement(first) && named(asElement(first)->fName))) return first;
+  return nextElement(first, named);
+}
+
+DOMNode* nextElement(const DOMNode* node, NameMatcher& named) noexcept {
+  for (bool element = isElement(node);;) {
+    DOMNode* next = element ? asElement(node)->fChild.nextSibling : node->getNextSibling();
+    if (next == nullptr) return nullptr;
+    element = isElement(next);
+    if (element && named(asElement(next)->fName)) return next;
+    node = next;
   }
-  return nullptr;
 }
 
 const XMLCh* name(const DOMNode* node) noexcept {
@@ -289,13 +313,13 @@ DOMNode* ownerElement(const DOMNode* attribute) noexcept {
 }
 
 DOMNode* newElement(DOMDocument* document, Text name, const XMLCh* kept) {
-  auto* element = new (as(document), DOMMemoryManager::ELEMENT_OBJECT) DOMElementImpl(document, lookedUp(name, kept));
+  auto* element = construct<DOMElementImpl>(as(document), lookedUp(name, kept));
   if (kept != nullptr) element->fName = kept;
   return element;
 }
 
 DOMNode* newText(DOMDocument* document, Text data) {
-  return new (as(document), DOMMemoryManager::TEXT_OBJECT) DOMTextImpl(document, data.data(), data.size());
+  return makeText(as(document), data);
 }
 
 DOMNode* newComment(DOMDocument* document, Text data) {
@@ -315,11 +339,11 @@ DOMNode* newAttribute(DOMDocument* document, Text name, Text value) {
 }
 
 void append(DOMNode* element, DOMNode* child) noexcept {
-  append(element, asElement(element)->fParent, child);
+  append(element, asElement(element)->fParent, child, childOf(child));
 }
 
 void link(DOMNode* parent, DOMNode* child, DOMNode* before) noexcept {
-  if (before == nullptr && parent->getNodeType() == DOMNode::ELEMENT_NODE)
+  if (before == nullptr && isElement(parent))
     append(parent, child);
   else
     parent->insertBefore(child, before);
@@ -333,9 +357,14 @@ DOMNode* addAttribute(DOMNode* element, Text name, Text value, const XMLCh* kept
   DOMElementImpl* owner = asElement(element);
   DOMDocumentImpl* document = as(owner->fParent.fOwnerDocument);
   DOMAttrImpl* attribute = makeAttribute(document, name, value, kept);
-  owner->fAttributes->reserve(kFewAttributes);  // does nothing from the second on
-  DOMNodeVector* attributes = AttrMap::nodes(owner->fAttributes);
-  attributes->insertElementAt(attribute, place(attributes, name).index);
+  if (DOMNodeVector* attributes = AttrMap::nodes(owner->fAttributes)) {
+    attributes->insertElementAt(attribute, place(attributes, name).index);
+  } else {
+    attributes =
+        ::new (document->DOMDocumentImpl::allocate(sizeof *attributes)) DOMNodeVector(document, kFewAttributes);
+    attributes->addElement(attribute);
+    AttrMap::nodes(owner->fAttributes) = attributes;
+  }
   attribute->fNode.fOwnerNode = element;
   attribute->fNode.isOwned(true);
   document->changed();
@@ -362,7 +391,7 @@ void setValue(DOMNode* node, Text value) {
   if (DOMTextImpl* text = onlyText(node)) return setData(text->fCharacterData, value);
   DOMNode* replacement = newText(node->getOwnerDocument(), value);
   while (DOMNode* child = node->getFirstChild()) node->removeChild(child);
-  append(node, asAttribute(node)->fParent, replacement);
+  append(node, asAttribute(node)->fParent, replacement, childOf(replacement));
 }
 
 }  // namespace trnidom_detail::ops

@@ -29,8 +29,9 @@ DOMNode* lastChild(const DOMNode* node) noexcept;
 DOMNode* previousSibling(const DOMNode* node) noexcept;
 DOMNode* nextSibling(const DOMNode* node) noexcept;
 
-/// The first element of that name among the siblings after the node, or null.
-DOMNode* nextElement(const DOMNode* node, Text name) noexcept;
+/// The first element of that name among the children of a node, or the siblings after one, or null.
+DOMNode* firstElement(const DOMNode* parent, NameMatcher& named) noexcept;
+DOMNode* nextElement(const DOMNode* node, NameMatcher& named) noexcept;
 
 const XMLCh* name(const DOMNode* node) noexcept;
 

@@ -32,6 +32,13 @@ void setData(DOMNode* node, Text value) {
   }
 }
 
+/// The first element of that name among a node, which may be null, and the siblings after it.
+DOMNode* elementFrom(DOMNode* node, NameMatcher& named) noexcept {
+  while (node != nullptr && !(node->getNodeType() == DOMNode::ELEMENT_NODE && named(node->getNodeName())))
+    node = node->getNextSibling();
+  return node;
+}
+
 }  // namespace
 
 DOMNode* parent(const DOMNode* node) noexcept {
@@ -54,11 +61,12 @@ DOMNode* nextSibling(const DOMNode* node) noexcept {
   return node->getNextSibling();
 }
 
-DOMNode* nextElement(const DOMNode* node, Text name) noexcept {
-  NameMatcher named(name);
-  for (DOMNode* next = node->getNextSibling(); next != nullptr; next = next->getNextSibling())
-    if (next->getNodeType() == DOMNode::ELEMENT_NODE && named(next->getNodeName())) return next;
-  return nullptr;
+DOMNode* firstElement(const DOMNode* parent, NameMatcher& named) noexcept {
+  return elementFrom(parent->getFirstChild(), named);
+}
+
+DOMNode* nextElement(const DOMNode* node, NameMatcher& named) noexcept {
+  return elementFrom(node->getNextSibling(), named);
 }
 
 const XMLCh* name(const DOMNode* node) noexcept {

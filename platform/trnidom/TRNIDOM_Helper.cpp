@@ -30,16 +30,6 @@ TRNIDOM_Element findChild(const TRNIDOM_Node& parent, const ChildKey& key) {
   });
 }
 
-/// A new element of the parent's document, to be completed before it is appended.
-TRNIDOM_Element detachedElement(const TRNIDOM_Node& parent, const I18NString& name) {
-  return Access::handle(newElement(kFindOrCreate, Access::control(parent), name), parent);
-}
-
-TRNIDOM_Element appendChild(const TRNIDOM_Node& parent, const TRNIDOM_Node& child) {
-  Insertion(kFindOrCreate, parent, child).run(nullptr);
-  return child;
-}
-
 Control* requireNode(const char* tried, const TRNIDOM_Node& node) {
   if (node.isNull()) fail(TRNIDOM_DOMException::INVALID_STATE_ERR, tried, nullptr, "there is no node");
   return Access::control(node);
@@ -54,7 +44,8 @@ TRNIDOM_Element TRNIDOM_Helper::findChildElement(const TRNIDOM_Node& parent, con
 
 TRNIDOM_Element TRNIDOM_Helper::findNextSiblingElement(const TRNIDOM_Node& node, const I18NString& name) {
   if (node.isNull()) return {};
-  return Access::handle(ops::nextElement(Access::node(node), textOf(name)), node);
+  NameMatcher named(textOf(name));
+  return Access::handle(ops::nextElement(Access::node(node), named), node);
 }
 
 TRNIDOM_Element TRNIDOM_Helper::findFirstElement(const TRNIDOM_Node& parent, const I18NString& name) {
@@ -89,9 +80,10 @@ TRNIDOM_Element TRNIDOM_Helper::findOrCreateElementWithText(const TRNIDOM_Node& 
   if (parent.isNull()) return {};
   TRNIDOM_Element found = findChild(parent, {ChildKey::kText, textOf(name), Text(), textOf(text)});
   if (!found.isNull()) return found;
-  TRNIDOM_Element made = detachedElement(parent, name);
-  if (!text.empty()) appendText(made, text);
-  return appendChild(parent, made);
+  Control* control = Access::control(parent);
+  DOMNode* made = newElement(kFindOrCreate, control, name);
+  if (!text.empty()) ops::append(made, newText(kFindOrCreate, control, text));
+  return appendNew(kFindOrCreate, parent, made);
 }
 
 TRNIDOM_Element TRNIDOM_Helper::findOrCreateElementWithAttribute(const TRNIDOM_Node& parent, const I18NString& name,
@@ -100,9 +92,9 @@ TRNIDOM_Element TRNIDOM_Helper::findOrCreateElementWithAttribute(const TRNIDOM_N
   if (parent.isNull()) return {};
   TRNIDOM_Element found = findChild(parent, {ChildKey::kAttribute, textOf(name), textOf(attrName), textOf(attrValue)});
   if (!found.isNull()) return found;
-  TRNIDOM_Element made = detachedElement(parent, name);
+  TRNIDOM_Element made = Access::handle(newElement(kFindOrCreate, Access::control(parent), name), parent);
   made.setAttribute(attrName, attrValue);
-  return appendChild(parent, made);
+  return appendNew(kFindOrCreate, parent, Access::node(made));
 }
 
 TRNIDOM_Element TRNIDOM_Helper::appendElement(const TRNIDOM_Node& parent, const I18NString& name) {
@@ -122,9 +114,9 @@ void TRNIDOM_Helper::getChildAttributes(const TRNIDOM_Node& parent, const I18NSt
   NameMatcher named(textOf(name));
   const Text attribute = textOf(attrName);
   guarded("getChildAttributes", node, [&] {
-    for (const DOMNode* child = ops::firstChild(node); child != nullptr; child = ops::nextSibling(child))
-      if (isElement(child) && named(ops::name(child)))
-        values.push_back(stringOf(ops::attributeValue(child, attribute)));
+    for (const DOMNode* child = ops::firstElement(node, named); child != nullptr;
+         child = ops::nextElement(child, named))
+      values.emplace_back(ops::attributeValue(child, attribute));
   });
 }
 

@@ -94,13 +94,16 @@ class Builder final : public XMLDocumentHandler, public XMLErrorReporter {
 
   void append(DOMNode* node) {
     flushText();
-    ops::link(m_parent, node, nullptr);
+    if (m_parent == m_document)
+      ops::link(m_document, node, nullptr);
+    else
+      ops::append(m_parent, node);
   }
 
   /// A run of characters may arrive in pieces.
   void flushText() {
     if (m_text.empty()) return;
-    ops::link(m_parent, ops::newText(m_document, m_text), nullptr);
+    ops::append(m_parent, ops::newText(m_document, m_text));
     m_text.clear();
   }
 
