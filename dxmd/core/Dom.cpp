@@ -12,9 +12,7 @@ TRNIDOM_Element appendElement(TRNIDOM_Element& parent, const I18NString& name) {
 
 TRNIDOM_Element appendElement(TRNIDOM_Element& parent, const I18NString& name, const I18NString& attrName,
                               const I18NString& attrValue) {
-  TRNIDOM_Element element = appendElement(parent, name);
-  element.setAttribute(attrName, attrValue);
-  return element;
+  return TRNIDOM_Helper::appendElement(parent, name, attrName, attrValue);
 }
 
 TRNIDOM_Element appendValueElement(TRNIDOM_Element& parent, const I18NString& name, const I18NString& value) {

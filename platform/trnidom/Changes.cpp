@@ -96,6 +96,14 @@ DOMNode* newText(const char* tried, Control* control, const I18NString& data) {
   return guarded(tried, control->document, [&] { return ops::newText(control->document, text); });
 }
 
+void addAttribute(const char* tried, Control* control, DOMNode* element, Text name, Text value) {
+  requireNoNul(value, tried, element);
+  const XMLCh* kept = control->names.find(name);
+  if (kept == nullptr) requireName(name, tried, element);
+  DOMNode* attribute = guarded(tried, element, [&] { return ops::addAttribute(element, name, value, kept); });
+  if (kept == nullptr) control->names.add(ops::name(attribute));
+}
+
 TRNIDOM_Node appendNew(const char* tried, const TRNIDOM_Node& parent, DOMNode* child) {
   Control* control = Access::control(parent);
   DOMNode* above = Access::node(parent);

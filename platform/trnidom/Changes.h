@@ -5,6 +5,8 @@
 #include <trnidom/TRNIDOM_Node.h>
 #include <xercesc/dom/DOMNode.hpp>
 
+#include "Text.h"
+
 namespace trnidom_detail {
 
 struct Control;
@@ -39,6 +41,9 @@ xercesc::DOMNode* newElement(const char* tried, Control* control, const I18NStri
 
 /// A new text of the document. Checks the text.
 xercesc::DOMNode* newText(const char* tried, Control* control, const I18NString& text);
+
+/// Gives an element an attribute that it does not have. Checks the name and the value.
+void addAttribute(const char* tried, Control* control, xercesc::DOMNode* element, Text name, Text value);
 
 /// Appends a node of the parent's document that was just made: it has no parent, and the parent is not below it.
 TRNIDOM_Node appendNew(const char* tried, const TRNIDOM_Node& parent, xercesc::DOMNode* child);

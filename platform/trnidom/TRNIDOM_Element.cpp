@@ -2,6 +2,7 @@
 
 #include <trnidom/TRNIDOM_DOMException.h>
 
+#include "Changes.h"
 #include "Control.h"
 #include "ListRecord.h"
 #include "NodeOps.h"
@@ -56,14 +57,11 @@ void TRNIDOM_Element::setAttribute(const I18NString& attrName, const I18NString&
   Control* control = Access::control(*this);
   const Text name = textOf(attrName);
   const Text value = textOf(attrValue);
-  requireNoNul(value, kTried, element);
   if (DOMNode* attribute = ops::attribute(element, name)) {
+    requireNoNul(value, kTried, element);
     guarded(kTried, element, [&] { ops::setValue(attribute, value); });
   } else {
-    const XMLCh* kept = control->names.find(name);
-    if (kept == nullptr) requireName(name, kTried, element);
-    attribute = guarded(kTried, element, [&] { return ops::addAttribute(element, name, value, kept); });
-    if (kept == nullptr) control->names.add(ops::name(attribute));
+    addAttribute(kTried, control, element, name, value);
   }
   control->indexes.attributeChanged(element, name);
 }

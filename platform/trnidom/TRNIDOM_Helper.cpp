@@ -30,6 +30,14 @@ TRNIDOM_Element findChild(const TRNIDOM_Node& parent, const ChildKey& key) {
   });
 }
 
+TRNIDOM_Element appendWithAttribute(const char* tried, const TRNIDOM_Node& parent, const I18NString& name,
+                                    const I18NString& attrName, const I18NString& attrValue) {
+  Control* control = Access::control(parent);
+  DOMNode* made = newElement(tried, control, name);
+  addAttribute(tried, control, made, textOf(attrName), textOf(attrValue));
+  return appendNew(tried, parent, made);
+}
+
 Control* requireNode(const char* tried, const TRNIDOM_Node& node) {
   if (node.isNull()) fail(TRNIDOM_DOMException::INVALID_STATE_ERR, tried, nullptr, "there is no node");
   return Access::control(node);
@@ -92,14 +100,19 @@ TRNIDOM_Element TRNIDOM_Helper::findOrCreateElementWithAttribute(const TRNIDOM_N
   if (parent.isNull()) return {};
   TRNIDOM_Element found = findChild(parent, {ChildKey::kAttribute, textOf(name), textOf(attrName), textOf(attrValue)});
   if (!found.isNull()) return found;
-  TRNIDOM_Element made = Access::handle(newElement(kFindOrCreate, Access::control(parent), name), parent);
-  made.setAttribute(attrName, attrValue);
-  return appendNew(kFindOrCreate, parent, Access::node(made));
+  return appendWithAttribute(kFindOrCreate, parent, name, attrName, attrValue);
 }
 
 TRNIDOM_Element TRNIDOM_Helper::appendElement(const TRNIDOM_Node& parent, const I18NString& name) {
   static constexpr const char* kTried = "appendElement";
   return appendNew(kTried, parent, newElement(kTried, requireNode(kTried, parent), name));
+}
+
+TRNIDOM_Element TRNIDOM_Helper::appendElement(const TRNIDOM_Node& parent, const I18NString& name,
+                                              const I18NString& attrName, const I18NString& attrValue) {
+  static constexpr const char* kTried = "appendElement";
+  requireNode(kTried, parent);
+  return appendWithAttribute(kTried, parent, name, attrName, attrValue);
 }
 
 TRNIDOM_Node TRNIDOM_Helper::appendText(const TRNIDOM_Node& parent, const I18NString& text) {

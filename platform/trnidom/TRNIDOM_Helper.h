@@ -44,6 +44,10 @@ class TRNIDOM_API TRNIDOM_Helper {
   /// @throws TRNIDOM_DOMException as they do, and for a null parent.
   static TRNIDOM_Element appendElement(const TRNIDOM_Node& parent, const I18NString& name);
 
+  /// Appends a new element with one attribute in the same way.
+  static TRNIDOM_Element appendElement(const TRNIDOM_Node& parent, const I18NString& name, const I18NString& attrName,
+                                       const I18NString& attrValue);
+
   /// Appends a new text node in the same way, also when the text is empty.
   static TRNIDOM_Node appendText(const TRNIDOM_Node& parent, const I18NString& text);
 

@@ -98,6 +98,7 @@ TEST(OutOfMemory, TreesStayAsTheyWere) {
            [&] { root.setAttribute("x", text); }, [&] { root.setAttribute("new", text); },
            [&] { root.getFirstChild().getFirstChild().setNodeValue(text); },
            [&] { TRNIDOM_Helper::appendText(root, text); },
+           [&] { TRNIDOM_Helper::appendElement(root, "b", "x", text); },
            [&] { TRNIDOM_Helper::findOrCreateElementWithText(root, "b", text); },
            [&] { TRNIDOM_Helper::findOrCreateElementWithAttribute(root, "b", "x", text); }}) {
     EXPECT_TRUE(failsWithoutMemory(change));
