@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include <trn/TRNAssert.h>
 #include <trnidom/TRNIDOM_Helper.h>
@@ -92,10 +93,12 @@ void DXMaterializeRequestHelper::AddTask(ETasks task) {
 
 const std::vector<DXMaterializeRequestHelper::ETasks>& DXMaterializeRequestHelper::GetTasks() {
   if (!m_tasks.empty()) return m_tasks;
+  std::vector<ETasks> tasks;
   for (const TRNIDOM_Node task : m_requestRoot.getElementsByTagName(STR_Task)) {
     const TRNIDOM_Node name = task.getFirstChild();
-    if (!name.isNull()) m_tasks.push_back(kReceivedTasks.value(name.getNodeValue()));
+    if (!name.isNull()) tasks.push_back(kReceivedTasks.value(name.getNodeValue()));
   }
+  m_tasks = std::move(tasks);
   return m_tasks;
 }
 
@@ -168,12 +171,14 @@ void DXMaterializeRequestHelper::parseTargetDataSource() {
   const TRNIDOM_Node nodeTemp = TRNIDOM_Helper::findFirstElement(m_requestRoot, STR_targetDataSource);
   if (nodeTemp.isNull()) return;
   TRN_ASSERT(nodeTemp.getNodeType() == TRNIDOM_Node::ELEMENT_NODE);
-  m_targetDataSource[kType] = TRNIDOM_Element(nodeTemp).getAttribute(STR_type);
+  std::array<std::optional<I18NString>, std::size(kFields)> texts;
+  texts[kType] = TRNIDOM_Element(nodeTemp).getAttribute(STR_type);
   for (TRNIDOM_Node child = nodeTemp.getFirstChild(); !child.isNull(); child = child.getNextSibling()) {
     const TRNIDOM_Node text = dxmd::firstText(child);
     if (!dxmd::isElement(child) || text.isNull()) continue;
     const I18NString name = child.getNodeName();
     for (std::size_t i = kFirstElement; i < std::size(kFields); ++i)
-      if (name == kFields[i].name.text()) m_targetDataSource[i] = text.getNodeValue();
+      if (name == kFields[i].name.text()) texts[i] = text.getNodeValue();
   }
+  m_targetDataSource = std::move(texts);
 }

@@ -1,6 +1,7 @@
 #include <dxmd/updateobject/DXUpdateObjectRequestHelper.h>
 
 #include <cstddef>
+#include <utility>
 
 #include <trn/TRNAssert.h>
 #include <trnidom/TRNIDOM_Helper.h>
@@ -98,11 +99,23 @@ DXUpdateRequestTaskHelper::DXUpdateRequestTaskHelper(ETask task) : m_task(task) 
 DXUpdateRequestTaskHelper::~DXUpdateRequestTaskHelper() = default;
 
 void DXUpdateRequestTaskHelper::AddParameter(EParameter parameter, const I18NString& value, const I18NString& locale) {
-  m_parameters[parameter].emplace(value, locale);
+  addValue(parameter, value, locale);
 }
 
 void DXUpdateRequestTaskHelper::AddParameter(EParameter parameter, const TRNIDOM_Element& element) {
-  m_parameters[parameter].emplace(element);
+  addValue(parameter, element);
+}
+
+template <typename... Arguments>
+void DXUpdateRequestTaskHelper::addValue(EParameter parameter, const Arguments&... arguments) {
+  // No empty list is left when memory runs out: it would pass for one that was read.
+  if (const auto found = m_parameters.find(parameter); found != m_parameters.end()) {
+    found->second.emplace(arguments...);
+    return;
+  }
+  dxmd::OwnedList<ParamValue> values;
+  values.emplace(arguments...);
+  m_parameters.emplace(parameter, std::move(values));
 }
 
 bool DXUpdateRequestTaskHelper::GetParameter(EParameter parameter, std::vector<ParamValue*>& values) {

@@ -49,7 +49,11 @@ DXUpdateResponseTaskHelper::DXUpdateResponseTaskHelper(DXUpdateRequestTaskHelper
 DXUpdateResponseTaskHelper::~DXUpdateResponseTaskHelper() = default;
 
 void DXUpdateResponseTaskHelper::AddParameter(EParameter parameter, const I18NString& value) {
-  m_parameters[parameter].push_back(value);
+  // No empty list is left when memory runs out: it would pass for one that was read.
+  if (const auto found = m_parameters.find(parameter); found != m_parameters.end())
+    found->second.push_back(value);
+  else
+    m_parameters.emplace(parameter, std::vector<I18NString>{value});
 }
 
 bool DXUpdateResponseTaskHelper::GetParameter(EParameter parameter, std::vector<I18NString>& values) {

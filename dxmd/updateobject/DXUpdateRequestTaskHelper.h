@@ -119,13 +119,15 @@ class DXMD_API DXUpdateRequestTaskHelper : public ActionHandlerBase {
   ///
   /// The value of a property carries IDs when a "propertyType" passed before it in an "addProperty" or
   /// "updateProperty" task says so.
-  /// @throws TRNAssertError as `GetParameter` does.
+  /// @throws TRNAssertError as `GetParameter` does; the cursor stands on a "param" that has neither "value" nor
+  /// element.
   bool GetNextIDParameters(std::vector<I18NString>& vIDs);
 
   /// Writes IDs over those that the cursor stands on, in the received element.
   /// @param vIDs  exactly one for a "value"; else one for each "refobj", those counted that do not begin with text,
   ///              whose own are not used.
-  /// @throws TRNAssertError before the cursor was moved, and for any other number of IDs; nothing is written then.
+  /// @throws TRNAssertError before the cursor was moved, where it stands on a "param" with neither "value" nor element,
+  ///         and for any other number of IDs; nothing is written then.
   void UpdateCurrentIDParameters(const std::vector<I18NString>& vIDs);
 
   void doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const override;
@@ -135,6 +137,9 @@ class DXMD_API DXUpdateRequestTaskHelper : public ActionHandlerBase {
   // The parameter's values, parsed when they still are to be; null when there are none.
   const std::vector<ParamValue*>* findValues(EParameter parameter);
   void parseParameters();
+
+  template <typename... Arguments>
+  void addValue(EParameter parameter, const Arguments&... arguments);
 
   // Whether the cursor stops at the "param"; remembers the type of property that passes.
   bool ContainsIDs(const TRNIDOM_Element& param);

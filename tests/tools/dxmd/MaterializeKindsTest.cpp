@@ -16,6 +16,13 @@ TEST(MaterializeRequestKind, MaterialiseTasksAreWrittenAsTheGeneratedLoadButRead
                 .out);
 }
 
+TEST(MaterializeRequestKind, AnEmptyTypeIsNoAbsentOne) {
+  for (const std::string json : {R"({"targetDataSource":{"type":""}})", R"({"targetDataSource":{"database":"d"}})"})
+    EXPECT_EQ(
+        json + "\n",
+        run({"decode", "materializeRequest", "--indent", "0"}, run({"encode", "materializeRequest"}, json).out).out);
+}
+
 TEST(MaterializeRequestKind, PasswordAndTicketAreHidden) {
   const std::string xml =
       "<materializeRequest><targetDataSource type=\"T\"><connectionString>pwd=p;x=1</connectionString>"

@@ -1,6 +1,8 @@
 #include <string>
 #include <vector>
 
+#include <trnidom/TRNIDOM_Helper.h>
+
 #include <dxmd/materialize/DXMaterializeRequestHelper.h>
 #include <dxmd/materialize/DXMaterializeResponseHelper.h>
 
@@ -66,6 +68,8 @@ Decoded decodeRequest(TRNIDOM_Element& root, const KindOptions&) {
   const TargetDataSource received = request.GetTargetDataSourceInfo();
   for (const Field& field : kFields)
     if (const I18NString* text = received.*field.text) putUnlessEmpty(source, field.key, *text);
+  // The helper tells an absent type as an empty one.
+  if (TRNIDOM_Helper::findFirstElement(root, "targetDataSource").hasAttribute("type")) source["type"] = *received.type;
   putUnlessEmpty(json, "targetDataSource", std::move(source));
 
   Json parameters = Json::array();
