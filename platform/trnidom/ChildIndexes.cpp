@@ -121,8 +121,9 @@ void ChildIndexes::noteKey(DOMNode* element, ChildKey::Kind kind, Text attribute
   bool kept = false;
   try {
     // A text of many pieces is not hashed again for each of them.
-    const DOMNode* first = kind == ChildKey::kText ? ops::firstChild(element) : nullptr;
-    kept = (first == nullptr || ops::nextSibling(first) == nullptr) && index->change(element);
+    const DOMNode* piece = kind == ChildKey::kText ? ops::firstChild(element) : nullptr;
+    for (int pieces = 0; piece != nullptr && pieces < kFewChildren; ++pieces) piece = ops::nextSibling(piece);
+    kept = piece == nullptr && index->change(element);
   } catch (...) {  // out of memory: do without
   }
   if (kept) return;
@@ -141,7 +142,8 @@ DOMNode* ChildIndexes::Index::find(const ChildKey& key, bool& stale) const {
   const std::size_t mask = m_slots.size() - 1;
   for (std::size_t at = hash & mask; m_slots[at].child != nullptr; at = (at + 1) & mask) {
     if (m_slots[at].hash != hash) continue;
-    if (matches(m_slots[at].child, key)) return m_slots[at].child;
+    // Behind a child that has another key by now, the first of this key may be one that was not entered.
+    if (matches(m_slots[at].child, key)) return stale ? nullptr : m_slots[at].child;
     stale = true;
   }
   return nullptr;
@@ -158,27 +160,34 @@ bool ChildIndexes::Index::change(DOMNode* element) {
   std::u16string store;
   const ChildKey key = keyOf(element, store);
   if (key.kind != m_kind) return true;  // lacks the attribute
-  const DOMNode* before = enter(element, key);
-  if (before == nullptr) return true;
+  const Found found = enter(element, key);
+  if (found.other == nullptr) return true;
   // What is there already is the first of its key if it still has it and this one comes after all others.
-  return before != element && matches(before, key) && ops::nextSibling(element) == nullptr;
+  return !found.self && matches(found.other, key) && ops::nextSibling(element) == nullptr;
 }
 
-/// Enters the element under its key, unless a child of that key is there. Gives what was first under the key's hash.
-const DOMNode* ChildIndexes::Index::enter(DOMNode* element, const ChildKey& key) {
+/// Enters the element under its key, unless it is there or a child of that key is. Gives what was there under the key's
+/// hash.
+ChildIndexes::Index::Found ChildIndexes::Index::enter(DOMNode* element, const ChildKey& key) {
   if (m_used >= m_slots.size() / 2) grow();
   const std::size_t hash = hashOf(key);
   const std::size_t mask = m_slots.size() - 1;
-  const DOMNode* before = nullptr;
+  Found found;
+  bool taken = false;
   std::size_t at = hash & mask;
   for (; m_slots[at].child != nullptr; at = (at + 1) & mask) {
+    const DOMNode* child = m_slots[at].child;
     if (m_slots[at].hash != hash) continue;
-    if (before == nullptr) before = m_slots[at].child;
-    if (matches(m_slots[at].child, key)) return before;
+    if (child == element)
+      found.self = true;
+    else if (found.other == nullptr)
+      found.other = child;
+    taken = taken || child == element || matches(child, key);
   }
+  if (taken) return found;
   m_slots[at] = {hash, element};
   ++m_used;
-  return before;
+  return found;
 }
 
 void ChildIndexes::Index::grow() {

@@ -86,9 +86,15 @@ class ChildIndexes {
       xercesc::DOMNode* child;
     };
 
+    /// What was entered under a hash: the element that is to be, and the first of the others.
+    struct Found {
+      bool self = false;
+      const xercesc::DOMNode* other = nullptr;
+    };
+
     ChildKey keyOf(const xercesc::DOMNode* element, std::u16string& store) const;
     static std::size_t hashOf(const ChildKey& key) noexcept;
-    const xercesc::DOMNode* enter(xercesc::DOMNode* element, const ChildKey& key);
+    Found enter(xercesc::DOMNode* element, const ChildKey& key);
     void grow();
 
     ChildKey::Kind m_kind;

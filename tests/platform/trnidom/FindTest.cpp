@@ -151,6 +151,41 @@ TEST(FindAmongMany, CopiesHaveChildrenOfTheirOwn) {
   EXPECT_EQ(found, findByI(a, "30"));
 }
 
+TEST(FindAmongMany, TheFirstOfEqualChildrenIsFoundHoweverManyCameBefore) {
+  TRNIDOM_Element a = manyChildren();
+  TRNIDOM_Document document = a.getOwnerDocument();
+  const auto append = [&] {
+    TRNIDOM_Element k = document.createElement("k");
+    k.setAttribute("i", "same");
+    return TRNIDOM_Element(a.appendChild(k));
+  };
+  TRNIDOM_Element first = append();
+  TRNIDOM_Element second = append();
+  EXPECT_EQ(first, findByI(a, "same"));
+  first.setAttribute("i", "other");
+  append();
+  EXPECT_EQ(second, findByI(a, "same"));
+  first.setAttribute("i", "same");
+  EXPECT_EQ(first, findByI(a, "same"));
+}
+
+// Without an index that outlives it, writing to these takes minutes.
+TEST(FindAmongMany, WhatWasFoundMayBeWrittenTo) {
+  TRNIDOM_Element a = parsed("<a/>");
+  for (int i = 0; i < 100000; ++i) {
+    const std::string key = std::to_string(i);
+    TRNIDOM_Element found = Helper::findOrCreateElementWithAttribute(a, "k", "i", key.c_str());
+    found.setAttribute("i", key.c_str());
+    found.setAttribute("other", "x");
+  }
+  for (int i = 0; i < 100000; ++i) {
+    TRNIDOM_Element found = Helper::findOrCreateElementWithText(a, "t", std::to_string(i).c_str());
+    found.getFirstChild().setNodeValue(std::to_string(i).c_str());
+    Helper::appendText(found, "more");
+  }
+  EXPECT_EQ(200000U, a.getChildNodes().getLength());
+}
+
 // Without an index, making these takes minutes.
 TEST(FindAmongMany, ADocumentOfManyDistinctChildrenIsOrdinary) {
   TRNIDOM_Element a = parsed("<a/>");
