@@ -1,8 +1,11 @@
 #include <trnidom/TRNIDOM_Parser.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
 #include <memory>
+#include <string_view>
 #include <system_error>
 #include <vector>
 
@@ -113,9 +116,70 @@ class Builder final : public XMLDocumentHandler, public XMLErrorReporter {
   std::u16string m_text;
 };
 
+/// The bytes of a document by the code units of their encoding, as the first of them tell it.
+class CodeUnits {
+ public:
+  explicit CodeUnits(std::string_view bytes) : m_bytes(bytes) {
+    const auto beginWith = [bytes](std::string_view first) { return bytes.substr(0, first.size()) == first; };
+    using namespace std::string_view_literals;
+    if (beginWith("\0\0\0<"sv) || beginWith("<\0\0\0"sv) || beginWith("\0\0\xFE\xFF"sv) || beginWith("\xFF\xFE\0\0"sv))
+      m_width = 4;
+    else if (beginWith("\0<"sv) || beginWith("<\0"sv) || beginWith("\xFE\xFF"sv) || beginWith("\xFF\xFE"sv))
+      m_width = 2;
+    m_isBigEndian = m_width != 1 && (beginWith("\0"sv) || beginWith("\xFE"sv));
+  }
+
+  std::size_t size() const { return m_bytes.size() / m_width; }
+  bool isWhole() const { return m_bytes.size() % m_width == 0; }
+
+  std::uint32_t operator[](std::size_t index) const {
+    std::uint32_t unit = 0;
+    for (std::size_t i = 0; i < m_width; ++i)
+      unit = unit << 8 | static_cast<unsigned char>(m_bytes[index * m_width + (m_isBigEndian ? i : m_width - 1 - i)]);
+    return unit;
+  }
+
+  /// The first U+0000, or the size.
+  std::size_t firstNul() const {
+    if (m_width == 1) return std::min(m_bytes.find('\0'), size());
+    std::size_t index = 0;
+    while (index < size() && (*this)[index] != 0) ++index;
+    return index;
+  }
+
+ private:
+  std::string_view m_bytes;
+  std::size_t m_width = 1;
+  bool m_isBigEndian = false;
+};
+
+[[noreturn]] void refuse(const CodeUnits& units, std::size_t index, const char* because) {
+  std::size_t line = 1;
+  std::size_t column = 1;
+  for (std::size_t i = 0; i < index; ++i) {
+    if (units[i] == '\n') {
+      ++line;
+      column = 1;
+    } else if ((units[i] & 0xC0) != 0x80) {  // further bytes of a character in UTF-8
+      ++column;
+    }
+  }
+  throw TRNIDOM_ParseError(line, column, because);
+}
+
+/// The scanner takes U+0000 for the end of the input and leaves out a character that is cut short there.
+void requireWholeCharacters(const CodeUnits& units) {
+  const std::size_t nul = units.firstNul();
+  if (nul != units.size()) refuse(units, nul, "U+0000 is no character of XML");
+  const bool endsInMarkupOrSpace = units.size() == 0 || units[units.size() - 1] < 0x80;
+  if (!units.isWhole() || !endsInMarkupOrSpace)
+    refuse(units, units.size(), "the input does not end as a document does");
+}
+
 }  // namespace
 
 TRNIDOM_Document TRNIDOM_Parser::parseString(const std::string& bytes) {
+  requireWholeCharacters(CodeUnits(bytes));
   TRNIDOM_Document made = newDocument();
   Control* control = Access::control(made);
   try {

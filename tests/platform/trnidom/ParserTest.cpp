@@ -108,6 +108,22 @@ TEST(Parser, RefusesTruncatedInputAtEveryByte) {
     EXPECT_NE("parsed", errorPlace(xml.substr(0, length))) << length;
 }
 
+// Each of these ends the input for the scanner, which says nothing of it.
+TEST(Parser, RefusesWhatIsNoCharacter) {
+  using namespace std::string_literals;
+  EXPECT_EQ("1:5", errorPlace("<a/>\0"s));
+  EXPECT_EQ("2:3", errorPlace("<a>\n\xC3\xA9 \0</a>"s));
+  EXPECT_EQ("2:1", errorPlace("<a/>\n\0<b/>"s));
+  for (const char* end : {"\xC3", "\xE2\x82", "\n\xFE"}) EXPECT_NE("parsed", errorPlace("<a/>"s + end)) << end;
+  for (const bool bigEndian : {false, true}) {
+    const std::string a = utf16(u"\uFEFF<a/>", bigEndian);
+    EXPECT_EQ("parsed", errorPlace(a + utf16(u"\n", bigEndian)));
+    EXPECT_NE("parsed", errorPlace(a + ' '));
+    EXPECT_NE("parsed", errorPlace(a + utf16(u"\xD800", bigEndian)));
+    EXPECT_NE("parsed", errorPlace(a + utf16({u'\0', u'\n'}, bigEndian)));
+  }
+}
+
 TEST(Parser, RefusesDocumentTypes) {
   const std::string bomb = "<!DOCTYPE a [<!ENTITY b 'b'><!ENTITY c '&b;&b;'>]><a>&c;</a>";
   for (const std::string& doctype :
