@@ -104,6 +104,15 @@ void addAttribute(const char* tried, Control* control, DOMNode* element, Text na
   if (kept == nullptr) control->names.add(ops::name(attribute));
 }
 
+void setValue(const char* tried, Control* control, DOMNode* node, Text value) {
+  requireNoNul(value, tried, node);
+  const DOMNode* first = ops::firstChild(node);
+  const bool keepsChildren =
+      node->getNodeType() != DOMNode::ATTRIBUTE_NODE || (first != nullptr && ops::nextSibling(first) == nullptr);
+  guarded(tried, node, [&] { ops::setValue(node, value); });
+  if (!keepsChildren) ++control->structure;
+}
+
 TRNIDOM_Node appendNew(const char* tried, const TRNIDOM_Node& parent, DOMNode* child) {
   Control* control = Access::control(parent);
   DOMNode* above = Access::node(parent);

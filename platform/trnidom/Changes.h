@@ -45,6 +45,10 @@ xercesc::DOMNode* newText(const char* tried, Control* control, const I18NString&
 /// Gives an element an attribute that it does not have. Checks the name and the value.
 void addAttribute(const char* tried, Control* control, xercesc::DOMNode* element, Text name, Text value);
 
+/// Sets the value of a node other than an element or document; an attribute's children become one text. Checks the
+/// text.
+void setValue(const char* tried, Control* control, xercesc::DOMNode* node, Text value);
+
 /// Appends a node of the parent's document that was just made: it has no parent, and the parent is not below it.
 TRNIDOM_Node appendNew(const char* tried, const TRNIDOM_Node& parent, xercesc::DOMNode* child);
 

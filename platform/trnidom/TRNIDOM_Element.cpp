@@ -58,8 +58,7 @@ void TRNIDOM_Element::setAttribute(const I18NString& attrName, const I18NString&
   const Text name = textOf(attrName);
   const Text value = textOf(attrValue);
   if (DOMNode* attribute = ops::attribute(element, name)) {
-    requireNoNul(value, kTried, element);
-    guarded(kTried, element, [&] { ops::setValue(attribute, value); });
+    setValue(kTried, control, attribute, value);
   } else {
     addAttribute(kTried, control, element, name, value);
   }

@@ -85,8 +85,7 @@ void TRNIDOM_Node::setNodeValue(const I18NString& value) {
   if (node == nullptr) fail(TRNIDOM_DOMException::INVALID_STATE_ERR, kTried, node, "there is no node");
   const unsigned short type = getNodeType();
   if (type == ELEMENT_NODE || type == DOCUMENT_NODE) return;
-  requireNoNul(textOf(value), kTried, node);
-  guarded(kTried, node, [&] { ops::setValue(node, textOf(value)); });
+  setValue(kTried, Access::control(*this), node, textOf(value));
   Access::control(*this)->indexes.valueChanged(node);
 }
 

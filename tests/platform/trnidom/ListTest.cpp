@@ -1,5 +1,6 @@
 #include "TestSupport.h"
 
+#include <trnidom/TRNIDOM_NamedNodeMap.h>
 #include <trnidom/TRNIDOM_NodeList.h>
 
 using namespace dxmd_test;
@@ -45,6 +46,22 @@ TEST(Lists, FollowEveryChangeOfTheTree) {
   EXPECT_EQ(1U, list.getLength());
   EXPECT_TRUE(list.item(1).isNull());
   EXPECT_EQ(1U, children.getLength());
+}
+
+TEST(Lists, FollowTheValueOfAnAttribute) {
+  TRNIDOM_Element a = parsed("<a x='1'/>");
+  TRNIDOM_Node x = a.getAttributes().getNamedItem("x");
+  const TRNIDOM_NodeList children = x.getChildNodes();
+  for (const char* value : {"9", "10"}) {
+    x.appendChild(a.getOwnerDocument().createTextNode("2"));
+    EXPECT_EQ(2U, children.getLength());
+    if (*value == '9')
+      a.setAttribute("x", value);
+    else
+      x.setNodeValue(value);
+    EXPECT_EQ(1U, children.getLength());
+    EXPECT_EQ(value, children.item(0).getNodeValue().toUtf8());
+  }
 }
 
 TEST(Lists, OutliveEveryOtherHandle) {
