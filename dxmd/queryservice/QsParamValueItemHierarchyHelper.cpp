@@ -1,6 +1,8 @@
 #include <dxmd/queryservice/QsParamValueItemHierarchyHelper.h>
 
 #include <cstddef>
+#include <memory>
+#include <utility>
 
 #include <trn/TRNAssert.h>
 #include <trnidom/TRNIDOM_Helper.h>
@@ -36,15 +38,17 @@ QsParamValueItemSimpleHelper* QsParamValueItemHierarchyHelper::SetValue(const I1
 
 const std::vector<QsParamValueItemHierarchyHelper*>& QsParamValueItemHierarchyHelper::GetSubNodes() {
   if (!m_subNodes.empty()) return m_subNodes.items();
+  OwnedList<QsParamValueItemHierarchyHelper> nodes;
   const TRNIDOM_Element subNodes = TRNIDOM_Helper::findChildElement(element(), STR_subNodes);
   for (TRNIDOM_Element item = TRNIDOM_Helper::findChildElement(subNodes, STR_item); !item.isNull();
        item = TRNIDOM_Helper::findNextSiblingElement(item, STR_item)) {
     std::unique_ptr<QsParamValueItemHelper> p(Create(STR_bus_hierarchicalParmValueItem, item));
     TRN_ASSERT(p->GetType() == kValueItemHierarchy);
     p->Take(item);
-    m_subNodes.adopt(
+    nodes.adopt(
         std::unique_ptr<QsParamValueItemHierarchyHelper>(static_cast<QsParamValueItemHierarchyHelper*>(p.release())));
   }
+  m_subNodes = std::move(nodes);
   return m_subNodes.items();
 }
 
