@@ -124,6 +124,15 @@ TEST(Parser, RefusesWhatIsNoCharacter) {
   }
 }
 
+TEST(Parser, SaysWhereBytesAreMalformed) {
+  EXPECT_EQ("2:1", errorPlace("<a>\n\xC3</a>"));
+  EXPECT_EQ("1:4", errorPlace("<a>\xFF</a>"));
+  EXPECT_EQ("1:9", errorPlace("<a b='\xC3\xA9 \xE2(\xA1'/>"));
+  EXPECT_EQ("3:2", errorPlace("<a>" + std::string(20000, 'x') + "\n\n \xC3(</a>"));
+  EXPECT_EQ("parsed", errorPlace("<?xml version='1.0' encoding='ISO-8859-1'?><a>\xC3</a>"));
+  EXPECT_EQ("1:50", errorPlace("<?xml version='1.0' encoding='ISO-8859-1'?><a>\xC3</b>"));
+}
+
 TEST(Parser, RefusesDocumentTypes) {
   const std::string bomb = "<!DOCTYPE a [<!ENTITY b 'b'><!ENTITY c '&b;&b;'>]><a>&c;</a>";
   for (const std::string& doctype :
