@@ -94,8 +94,6 @@ struct Kind {
 
   /// JSON keys whose values are secrets, beside those that any kind hides by their names (see Secrets.h).
   std::vector<std::string> secrets;
-  /// JSON keys whose values are connection strings, in which passwords are hidden; "connectionString" always is one.
-  std::vector<std::string> connectionStrings;
 
   std::string example;  ///< complete JSON to encode; for a kind that is only read, complete XML to decode
   std::vector<KindOption> options;

@@ -1,6 +1,7 @@
 #include "Secrets.h"
 
 #include <algorithm>
+#include <iterator>
 #include <vector>
 
 #include <trnidom/TRNIDOM_Document.h>
@@ -14,10 +15,8 @@ namespace dxmd_tool {
 namespace {
 
 const char* const kMask = "***";
-const char* const kConnectionString = "connectionString";
 
-constexpr std::initializer_list<const char*> kSecretNames = {"password", "passport", "ticket"};
-constexpr std::initializer_list<const char*> kSecretParameters = {"password", "passport", "ticket", "pwd"};
+constexpr const char* kSecretWords[] = {"password", "passwd", "pwd", "passport", "ticket"};
 
 std::string lowerCase(std::string_view text) {
   std::string lower(text);
@@ -26,9 +25,9 @@ std::string lowerCase(std::string_view text) {
   return lower;
 }
 
-bool holdsOneOf(std::string_view text, std::initializer_list<const char*> words) {
+bool holdsSecretWord(std::string_view text) {
   const std::string lower = lowerCase(text);
-  return std::any_of(words.begin(), words.end(),
+  return std::any_of(std::begin(kSecretWords), std::end(kSecretWords),
                      [&](const char* word) { return lower.find(word) != std::string::npos; });
 }
 
@@ -64,8 +63,8 @@ class XmlMasker {
       for (TRNIDOM_Node attribute : node.getAttributes()) visitAttribute(attribute);
     } else if (!m_secret.isNull()) {
       node.setNodeValue(kMask);
-    } else if (node.getParentNode().getNodeName() == I18NString(kConnectionString)) {
-      node.setNodeValue(maskedConnectionString(node.getNodeValue().toUtf8()).c_str());
+    } else {
+      hideParameters(node);
     }
   }
 
@@ -73,8 +72,13 @@ class XmlMasker {
     const std::string name = attribute.getNodeName().toUtf8();
     if (isSecretName(name) || (!m_secret.isNull() && name != "name"))
       attribute.setNodeValue(kMask);
-    else if (name == kConnectionString)
-      attribute.setNodeValue(maskedConnectionString(attribute.getNodeValue().toUtf8()).c_str());
+    else
+      hideParameters(attribute);
+  }
+
+  static void hideParameters(TRNIDOM_Node& node) {
+    const std::string text = node.getNodeValue().toUtf8();
+    if (const std::string masked = maskedParameters(text); masked != text) node.setNodeValue(masked.c_str());
   }
 
   void leave(const TRNIDOM_Node& node) {
@@ -89,7 +93,7 @@ class XmlMasker {
 };
 
 std::string maskedXml(const std::string& text) {
-  if (!holdsOneOf(text, kSecretParameters)) return text;
+  if (!holdsSecretWord(text)) return text;
   try {
     const TRNIDOM_Document document = TRNIDOM_Parser::parseString(text);
     XmlMasker().visitAll(document);
@@ -117,10 +121,10 @@ class Masker {
       auto& text = json.get_ref<std::string&>();
       if (secret)
         text = text.empty() ? "" : kMask;
-      else if (text.compare(0, 1, "<") == 0)
+      else if (const std::size_t first = text.find_first_not_of(" \t\r\n"); first != text.npos && text[first] == '<')
         text = maskedXml(text);
-      else if (isConnectionString(key))
-        text = maskedConnectionString(text);
+      else
+        text = maskedParameters(text);
     } else if (secret && !json.is_null()) {
       json = kMask;
     }
@@ -128,9 +132,6 @@ class Masker {
 
  private:
   bool isSecret(std::string_view key) const { return isSecretName(key) || isListed(m_kind.secrets, key); }
-  bool isConnectionString(std::string_view key) const {
-    return key == kConnectionString || isListed(m_kind.connectionStrings, key);
-  }
 
   const Kind& m_kind;
 };
@@ -138,34 +139,30 @@ class Masker {
 }  // namespace
 
 bool isSecretName(std::string_view name) {
-  return holdsOneOf(name, kSecretNames);
+  return holdsSecretWord(name);
 }
 
-std::string maskedConnectionString(const std::string& text) {
+std::string maskedParameters(const std::string& text) {
   std::string masked;
-  std::size_t at = 0;
-  while (at < text.size()) {
-    const std::size_t end = std::min(text.find(';', at), text.size());
-    const std::size_t equals = text.find('=', at);
-    if (equals >= end || !holdsOneOf(std::string_view(text).substr(at, equals - at), kSecretParameters)) {
-      masked += text.substr(at, end - at + 1);
-      at = end + 1;
-      continue;
+  std::size_t done = 0;
+  for (std::size_t equals = text.find('='); equals != std::string::npos; equals = text.find('=', equals + 1)) {
+    const std::size_t before = text.find_last_of(";&?={\"'", equals - (equals > 0 ? 1 : 0));
+    const std::size_t name = std::max(done, before == std::string::npos || before >= equals ? 0 : before + 1);
+    if (name >= equals || !holdsSecretWord(std::string_view(text).substr(name, equals - name))) continue;
+    // A value in quotes or braces may hold semicolons, and the closing one when that stands twice.
+    std::size_t last = equals + 1;
+    const std::size_t first = text.find_first_not_of(" \t", last);
+    if (first != std::string::npos && (text[first] == '{' || text[first] == '"' || text[first] == '\'')) {
+      const char close = text[first] == '{' ? '}' : text[first];
+      last = text.find(close, first + 1);
+      while (last < text.size() && text[last + 1] == close) last = text.find(close, last + 2);
     }
-    // A value in quotes or braces may hold semicolons.
-    std::size_t last = end;
-    const std::size_t first = text.find_first_not_of(' ', equals + 1);
-    if (first != std::string::npos && first < end) {
-      const char open = text[first];
-      const char close = open == '{' ? '}' : open;
-      if (open == '{' || open == '"' || open == '\'')
-        last = text.find(';', std::min(text.find(close, first + 1), text.size()));
-    }
-    last = std::min(last, text.size());
-    masked += text.substr(at, equals + 1 - at) + (last > equals + 1 ? kMask : "") + text.substr(last, 1);
-    at = last + 1;
+    last = std::min(text.find(';', std::min(last, text.size())), text.size());
+    masked += text.substr(done, equals + 1 - done) + (last > equals + 1 ? kMask : "");
+    done = last;
+    equals = std::max(equals, last - 1);
   }
-  return masked;
+  return masked + text.substr(done);
 }
 
 void maskSecrets(Json& json, const Kind& kind) {

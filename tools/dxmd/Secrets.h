@@ -10,17 +10,17 @@
 // Passwords, passports and tickets, which print as `***`.
 //
 // A value is a secret when its key, or the key of something around it, is the name of one: a name in which "password",
-// "passport" or "ticket" occurs, in whatever case, or one that the kind declares. So is the "value" of an object whose
-// "name" is such a name. In a connection string the values of the parameters that are named so, or "pwd", are hidden;
-// in a text of XML, the elements and attributes of such names, and all below such elements.
+// "passwd", "pwd", "passport" or "ticket" occurs, in whatever case, or one that the kind declares. So is the "value" of
+// an object whose "name" is such a name. In a text of XML, the elements and attributes of such names are hidden, and
+// all below such elements. In every other text, a connection string or not, what follows such a name and "=" is hidden.
 
 namespace dxmd_tool {
 
 /// Whether that is the name of a secret in any kind.
 bool isSecretName(std::string_view name);
 
-/// The connection string without its passwords.
-std::string maskedConnectionString(const std::string& text);
+/// The text without the values of parameters that are secrets, as a connection string has them.
+std::string maskedParameters(const std::string& text);
 
 /// Hides the secrets in decoded JSON, which must not nest deeper than `kMaxJsonDepth`.
 void maskSecrets(Json& json, const Kind& kind);

@@ -28,18 +28,23 @@ TEST(Secrets, NamedValueIsHiddenByItsName) {
 TEST(Secrets, KindDeclaresMore) {
   Kind kind;
   kind.secrets = {"pin"};
-  kind.connectionStrings = {"link"};
   EXPECT_EQ(R"({"pin":"***","link":"UID=u;PWD=***"})", masked(R"({"pin":"1","link":"UID=u;PWD=p"})", kind));
 }
 
 TEST(Secrets, ConnectionStringsKeepAllButPasswords) {
-  EXPECT_EQ("DSN=x;UID=u;PWD=***;DB=d", maskedConnectionString("DSN=x;UID=u;PWD=p;DB=d"));
-  EXPECT_EQ("Password=***", maskedConnectionString("Password= p q "));
-  EXPECT_EQ("pwd=***;x=1", maskedConnectionString("pwd={a;b};x=1"));
-  EXPECT_EQ("pwd=***;x=1", maskedConnectionString("pwd='a;b';x=1"));
-  EXPECT_EQ("pwd=***", maskedConnectionString("pwd={a;b"));
-  EXPECT_EQ("pwd=;x=1;;", maskedConnectionString("pwd=;x=1;;"));
-  EXPECT_EQ("", maskedConnectionString(""));
+  EXPECT_EQ("DSN=x;UID=u;PWD=***;DB=d", maskedParameters("DSN=x;UID=u;PWD=p;DB=d"));
+  EXPECT_EQ("Password=***", maskedParameters("Password= p q "));
+  EXPECT_EQ("pwd=***;x=1", maskedParameters("pwd={a;b};x=1"));
+  EXPECT_EQ("pwd=***;x=1", maskedParameters("pwd='a;b';x=1"));
+  EXPECT_EQ("pwd=***", maskedParameters("pwd={a;b"));
+  EXPECT_EQ("pwd=;x=1;;", maskedParameters("pwd=;x=1;;"));
+  EXPECT_EQ("", maskedParameters(""));
+  EXPECT_EQ("a= b=c;d", maskedParameters("a= b=c;d"));
+  EXPECT_EQ("Pwd=***;x", maskedParameters("Pwd=\"a\"\";b\";x"));
+  EXPECT_EQ("PWD=***", maskedParameters("PWD={a}};b}"));
+  EXPECT_EQ("PWD=***;x", maskedParameters("PWD=\t\"a;b\";x"));
+  EXPECT_EQ("Extended=\"Password=***;x=1\"", maskedParameters("Extended=\"Password=p;x=1\""));
+  EXPECT_EQ("jdbc:x://h?user=a&password=***;y", maskedParameters("jdbc:x://h?user=a&password=p&b=1;y"));
 }
 
 TEST(Secrets, TextsOfXmlAreSearchedToo) {

@@ -84,7 +84,6 @@ a name are left out.)";
   kind.roots = {"fault"};
   kind.orHolding = {"faultcode", "faultstring", "faultDataSource", "faultConnection", "faultSignon", "dataSource"};
   kind.decode = decodeDataSourceFault;
-  kind.connectionStrings = {"searchPath"};
   kind.example = R"(<fault>
   <faultcode>Server</faultcode>
   <faultSubcode>DS-17</faultSubcode>

@@ -119,7 +119,6 @@ Kind responseKind() {
   kind.roots = {"response"};
   kind.orHolding = {"queryFeedbackResult", "columnList", "resultData"};
   kind.decode = decodeResponse;
-  kind.connectionStrings = {"connection"};
   kind.options = {
       {KindOption::kDecode, "--format", "json|table", "Print JSON, or the rows as a table", {"json", "table"}}};
   kind.example =
