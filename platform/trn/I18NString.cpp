@@ -295,6 +295,13 @@ std::string I18NString::toUtf8() const {
 
 I18NString& I18NString::operator+=(const I18NString& other) {
   UnicodeString& text = icuText(m_storage);
+  const std::int32_t length = text.length();
+  const std::int64_t needed = std::int64_t{length} + static_cast<std::int64_t>(other.length()) + 1;
+  if (needed > text.getCapacity() && needed <= static_cast<std::int64_t>(kMaxLength)) {
+    // Room for more, since many texts grow by a little at a time; terminating one makes just enough for the NUL.
+    const std::int64_t room = std::min(needed + needed / 2, static_cast<std::int64_t>(kMaxLength));
+    if (text.getBuffer(static_cast<std::int32_t>(room)) != nullptr) text.releaseBuffer(length);
+  }
   text.append(icuText(other.m_storage));
   finish(text);
   return *this;

@@ -167,6 +167,16 @@ TEST(I18NString, CopiesOfLongTextShareCharactersUntilOneChanges) {
   EXPECT_EQ(units + u"y", copy.c_str());
 }
 
+// Without room to spare, appending these takes minutes.
+TEST(I18NString, GrowsByLittleAtATime) {
+  I18NString text;
+  for (int i = 0; i < 1000000; ++i) text += "xy";
+  EXPECT_EQ(2000000U, text.length());
+  I18NString twice("ab");
+  for (int i = 0; i < 6; ++i) twice += twice;
+  EXPECT_EQ(128U, twice.length());
+}
+
 TEST(I18NString, Concatenates) {
   EXPECT_EQ(I18NString("[model].[query]"), I18NString("[model]") + "." + I18NString("[query]"));
   I18NString text;
