@@ -77,7 +77,7 @@ void checkRoot(const Kind& kind, const TRNIDOM_Element& root, const std::string&
   const std::string found = root.getNodeName().toUtf8();
   if (std::find(kind.roots.begin(), kind.roots.end(), found) != kind.roots.end()) return;
   for (const std::string& part : kind.orHolding)
-    if (found == part || !TRNIDOM_Helper::findFirstElement(root, part.c_str()).isNull()) return;
+    if (!TRNIDOM_Helper::findFirstElement(root, part.c_str()).isNull()) return;
   throw ToolError(kStatusUnfit, name + ": no " + kind.name + ": its root element is " + inQuotes(found) + ", not " +
                                     joined(kind.roots) +
                                     (kind.orHolding.empty() ? "" : ", and it holds none of " + joined(kind.orHolding)));

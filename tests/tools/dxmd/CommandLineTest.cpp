@@ -89,6 +89,10 @@ TEST(CommandLine, RootOfAnotherKindIsStatus1) {
                 "standard input: no response: its root element is \"command\", not response, and it holds none of "
                 "queryFeedbackResult, columnList, resultData",
                 run(kDecode, "<command><execute/></command>"));
+  expectFailure(kStatusUnfit,
+                "standard input: no response: its root element is \"resultData\", not response, and it holds none of "
+                "queryFeedbackResult, columnList, resultData",
+                run(kDecode, "<resultData><row/></resultData>"));
   EXPECT_EQ(0, run(kDecode, "<envelope><body><resultData/></body></envelope>").status);
 }
 

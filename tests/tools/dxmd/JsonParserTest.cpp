@@ -39,6 +39,7 @@ TEST(JsonParser, SyntaxErrorsNamePlaceAndShowNoText) {
 TEST(JsonParser, SaysWhenInputIsEmptyOrXml) {
   expectRefused(kStatusSyntax, "in:1:1: empty where JSON is expected", " \n");
   expectRefused(kStatusSyntax, "in:1:1: not JSON: this looks like XML", " <command/>");
+  expectRefused(kStatusSyntax, "in:2:1: U+0000 is no character of JSON", std::string("{}\n\0{", 5));
 }
 
 TEST(JsonParser, KeyThatOccursTwiceIsRefusedWithItsPlace) {

@@ -43,13 +43,17 @@ class Builder : public nlohmann::json_sax<Json> {
 
   bool parse_error(std::size_t position, const std::string& lastToken, const Json::exception& error) override {
     // The position is that of the character behind the last one read.
-    const std::string_view before(m_text.data(), std::min(position == 0 ? 0 : position - 1, m_text.size()));
+    failAt(position == 0 ? 0 : position - 1, reason(lastToken, error));
+  }
+
+  [[noreturn]] void failAt(std::size_t position, const std::string& reason) const {
+    const std::string_view before(m_text.data(), std::min(position, m_text.size()));
     const std::size_t lineStart = before.rfind('\n') + 1;
     const auto line = 1 + std::count(before.begin(), before.end(), '\n');
     const auto column = 1 + std::count_if(before.begin() + static_cast<std::ptrdiff_t>(lineStart), before.end(),
                                           [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; });
-    throw ToolError(kStatusSyntax, m_source + ":" + std::to_string(line) + ":" + std::to_string(column) + ": " +
-                                       reason(lastToken, error));
+    throw ToolError(kStatusSyntax,
+                    m_source + ":" + std::to_string(line) + ":" + std::to_string(column) + ": " + reason);
   }
 
  private:
@@ -135,6 +139,9 @@ Json parseJson(const std::string& text, const std::string& source) {
   if (first == std::string::npos) throw ToolError(kStatusSyntax, source + ":1:1: empty where JSON is expected");
   if (text[first] == '<') throw ToolError(kStatusSyntax, source + ":1:1: not JSON: this looks like XML");
   Builder builder(text, source);
+  // The parser takes it for the end of the input.
+  if (const std::size_t nul = text.find('\0'); nul != std::string::npos)
+    builder.failAt(nul, "U+0000 is no character of JSON");
   Json::sax_parse(text, &builder);
   return builder.take();
 }
