@@ -62,7 +62,7 @@ DOMNode* ChildIndexes::find(DOMNode* parent, const ChildKey& key) {
   if (index != indexes.end()) {
     bool stale = false;
     DOMNode* found = index->find(key, stale);
-    if (found != nullptr || !stale) return found;
+    if (!stale) return found;
     indexes.erase(index);
   }
   Index made(key.kind, key.attribute);
@@ -142,8 +142,7 @@ DOMNode* ChildIndexes::Index::find(const ChildKey& key, bool& stale) const {
   const std::size_t mask = m_slots.size() - 1;
   for (std::size_t at = hash & mask; m_slots[at].child != nullptr; at = (at + 1) & mask) {
     if (m_slots[at].hash != hash) continue;
-    // Behind a child that has another key by now, the first of this key may be one that was not entered.
-    if (matches(m_slots[at].child, key)) return stale ? nullptr : m_slots[at].child;
+    if (matches(m_slots[at].child, key)) return m_slots[at].child;
     stale = true;
   }
   return nullptr;

@@ -76,8 +76,8 @@ class ChildIndexes {
     /// Takes note of a child's new key. False when the order of equal children has become unknown.
     bool change(xercesc::DOMNode* element);
 
-    /// The first child of that key, or null. `stale` tells that a child which had this key has another one by now, so
-    /// that null may be wrong.
+    /// The first child of that key, or null. `stale` tells that a child whose key had this hash has another key; in an
+    /// index that was changed since it was filled, another child may then be the first, and null may be wrong.
     xercesc::DOMNode* find(const ChildKey& key, bool& stale) const;
 
    private:

@@ -121,7 +121,8 @@ class Masker {
       auto& text = json.get_ref<std::string&>();
       if (secret)
         text = text.empty() ? "" : kMask;
-      else if (const std::size_t first = text.find_first_not_of(" \t\r\n"); first != text.npos && text[first] == '<')
+      else if (const std::size_t first = text.find_first_not_of(" \t\r\n");
+               first != std::string::npos && text[first] == '<')
         text = maskedXml(text);
       else
         text = maskedParameters(text);
