@@ -24,8 +24,8 @@ function(dxmd_add_library target alias output)
     OUTPUT_NAME ${output} EXPORT_NAME ${export_name} VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
   dxmd_target_options(${target})
   set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
-  # Calls within a library are not for others to redirect, and those into Xerces-C, millions for a large document, need
-  # no stub to be bound late.
+  # Calls within a library are not for others to redirect, and those into the next one, millions for a large document,
+  # need no stub to be bound late.
   target_compile_options(${target} PRIVATE -fno-semantic-interposition -fno-plt)
   # A sanitizer's own symbols are in the program, as clang has it, so that its libraries must leave them undefined.
   if(NOT DXMD_SANITIZE)

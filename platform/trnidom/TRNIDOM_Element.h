@@ -22,7 +22,7 @@ class TRNIDOM_API TRNIDOM_Element : public TRNIDOM_Node {
 
   /// The attribute's value; empty when it is absent.
   I18NString getAttribute(const I18NString& name) const;
-  bool hasAttribute(const I18NString& name) const noexcept;
+  bool hasAttribute(const I18NString& name) const;
 
   /// Adds the attribute or replaces its value.
   /// @throws TRNIDOM_DOMException on a null handle, on a node that is no element, for a malformed name, and for a value

@@ -1,156 +1,127 @@
 #include <trnidom/TRNIDOM_Helper.h>
 
-#include <trnidom/TRNIDOM_DOMException.h>
-
-#include "Changes.h"
-#include "Control.h"
-#include "NodeOps.h"
-#include "Tree.h"
-#include "Xerces.h"
+#include "store/Document.h"
+#include "store/Refusal.h"
 
 using namespace trnidom_detail;
-using xercesc::DOMNode;
 
 namespace {
 
-bool isElement(const DOMNode* node) noexcept {
-  return node->getNodeType() == DOMNode::ELEMENT_NODE;
-}
-
-bool isText(const DOMNode* node) noexcept {
-  const auto type = node->getNodeType();
-  return type == DOMNode::TEXT_NODE || type == DOMNode::CDATA_SECTION_NODE;
-}
-
-constexpr const char* kFindOrCreate = "findOrCreate";
-
-TRNIDOM_Element findChild(const TRNIDOM_Node& parent, const ChildKey& key) {
-  return guarded(kFindOrCreate, Access::node(parent), [&] {
-    return Access::handle(Access::control(parent)->indexes.find(Access::node(parent), key), parent);
+/// Finds a child of that key, or appends one.
+/// @param complete  gives a new element its text or attribute.
+template <typename Complete>
+TRNIDOM_Element findOrCreate(const TRNIDOM_Node& parent, ChildKey::Kind kind, const I18NString& name, Text attribute,
+                             Text value, Complete complete) {
+  if (parent.isNull()) return {};
+  return attempt("findOrCreate", parent, [&] {
+    Document* document = Access::document(parent);
+    Element* element = document->findChild(Access::node(parent), kind, textOf(name), attribute, value);
+    if (element == nullptr) {
+      element = document->newElement(textOf(name));
+      complete(*document, element);
+      document->appendNew(Access::node(parent), element);
+    }
+    return Access::handle(element, parent);
   });
-}
-
-TRNIDOM_Element appendWithAttribute(const char* tried, const TRNIDOM_Node& parent, const I18NString& name,
-                                    const I18NString& attrName, const I18NString& attrValue) {
-  Control* control = Access::control(parent);
-  DOMNode* made = newElement(tried, control, name);
-  addAttribute(tried, control, made, textOf(attrName), textOf(attrValue));
-  return appendNew(tried, parent, made);
-}
-
-Control* requireNode(const char* tried, const TRNIDOM_Node& node) {
-  if (node.isNull()) fail(TRNIDOM_DOMException::INVALID_STATE_ERR, tried, nullptr, "there is no node");
-  return Access::control(node);
 }
 
 }  // namespace
 
 TRNIDOM_Element TRNIDOM_Helper::findChildElement(const TRNIDOM_Node& parent, const I18NString& name) {
   if (parent.isNull()) return {};
-  return findChild(parent, {ChildKey::kName, textOf(name), Text(), Text()});
-}
-
-TRNIDOM_Element TRNIDOM_Helper::findNextSiblingElement(const TRNIDOM_Node& node, const I18NString& name) {
-  if (node.isNull()) return {};
-  NameMatcher named(textOf(name));
-  return Access::handle(ops::nextElement(Access::node(node), named), node);
+  return Access::handle(Access::document(parent)->findChild(Access::node(parent), ChildKey::kName, textOf(name)),
+                        parent);
 }
 
 TRNIDOM_Element TRNIDOM_Helper::findFirstElement(const TRNIDOM_Node& parent, const I18NString& name) {
   if (parent.isNull()) return {};
-  const DOMNode* root = Access::node(parent);
-  NameMatcher named(textOf(name));
-  for (DOMNode* node = nextBelow(root, root); node != nullptr; node = nextBelow(root, node))
-    if (isElement(node) && named(ops::name(node))) return Access::handle(node, parent);
-  return {};
+  const Name* wanted = Access::document(parent)->names().find(textOf(name));
+  if (wanted == nullptr) return {};
+  const ChildKey key{ChildKey::kName, wanted, nullptr, Text()};
+  return Access::handle(firstMatchBelow(Access::node(parent), key), parent);
 }
 
 TRNIDOM_Element TRNIDOM_Helper::findElementWithAttribute(const TRNIDOM_Node& parent, const I18NString& name,
                                                          const I18NString& attrName, const I18NString& attrValue) {
   if (parent.isNull()) return {};
-  const DOMNode* root = Access::node(parent);
-  const ChildKey key{ChildKey::kAttribute, textOf(name), textOf(attrName), textOf(attrValue)};
-  return guarded("findElementWithAttribute", root, [&]() -> TRNIDOM_Element {
-    for (DOMNode* node = nextBelow(root, root); node != nullptr; node = nextBelow(root, node))
-      if (matches(node, key)) return Access::handle(node, parent);
-    return {};
-  });
+  const Names& names = Access::document(parent)->names();
+  const ChildKey key{ChildKey::kAttribute, names.find(textOf(name)), names.find(textOf(attrName)), textOf(attrValue)};
+  if (key.name == nullptr || key.attribute == nullptr) return {};
+  return Access::handle(firstMatchBelow(Access::node(parent), key), parent);
 }
 
 TRNIDOM_Element TRNIDOM_Helper::findOrCreateElement(const TRNIDOM_Node& parent, const I18NString& name) {
-  TRNIDOM_Element found = findChildElement(parent, name);
-  if (!found.isNull() || parent.isNull()) return found;
-  return appendElement(parent, name);
+  return findOrCreate(parent, ChildKey::kName, name, Text(), Text(), [](Document&, Element*) {});
 }
 
 TRNIDOM_Element TRNIDOM_Helper::findOrCreateElementWithText(const TRNIDOM_Node& parent, const I18NString& name,
                                                             const I18NString& text) {
-  if (parent.isNull()) return {};
-  TRNIDOM_Element found = findChild(parent, {ChildKey::kText, textOf(name), Text(), textOf(text)});
-  if (!found.isNull()) return found;
-  Control* control = Access::control(parent);
-  DOMNode* made = newElement(kFindOrCreate, control, name);
-  if (!text.empty()) ops::append(made, newText(kFindOrCreate, control, text));
-  return appendNew(kFindOrCreate, parent, made);
+  return findOrCreate(parent, ChildKey::kText, name, Text(), textOf(text), [&](Document& document, Element* element) {
+    if (!text.empty()) document.insert(element, document.newCharacterData(Node::kText, textOf(text)), nullptr);
+  });
 }
 
 TRNIDOM_Element TRNIDOM_Helper::findOrCreateElementWithAttribute(const TRNIDOM_Node& parent, const I18NString& name,
                                                                  const I18NString& attrName,
                                                                  const I18NString& attrValue) {
-  if (parent.isNull()) return {};
-  TRNIDOM_Element found = findChild(parent, {ChildKey::kAttribute, textOf(name), textOf(attrName), textOf(attrValue)});
-  if (!found.isNull()) return found;
-  return appendWithAttribute(kFindOrCreate, parent, name, attrName, attrValue);
-}
-
-TRNIDOM_Element TRNIDOM_Helper::appendElement(const TRNIDOM_Node& parent, const I18NString& name) {
-  static constexpr const char* kTried = "appendElement";
-  return appendNew(kTried, parent, newElement(kTried, requireNode(kTried, parent), name));
-}
-
-TRNIDOM_Element TRNIDOM_Helper::appendElement(const TRNIDOM_Node& parent, const I18NString& name,
-                                              const I18NString& attrName, const I18NString& attrValue) {
-  static constexpr const char* kTried = "appendElement";
-  requireNode(kTried, parent);
-  return appendWithAttribute(kTried, parent, name, attrName, attrValue);
-}
-
-TRNIDOM_Node TRNIDOM_Helper::appendText(const TRNIDOM_Node& parent, const I18NString& text) {
-  static constexpr const char* kTried = "appendText";
-  return appendNew(kTried, parent, newText(kTried, requireNode(kTried, parent), text));
-}
-
-void TRNIDOM_Helper::getChildAttributes(const TRNIDOM_Node& parent, const I18NString& name, const I18NString& attrName,
-                                        std::vector<I18NString>& values) {
-  if (parent.isNull()) return;
-  const DOMNode* node = Access::node(parent);
-  NameMatcher named(textOf(name));
-  const Text attribute = textOf(attrName);
-  guarded("getChildAttributes", node, [&] {
-    for (const DOMNode* child = ops::firstElement(node, named); child != nullptr;
-         child = ops::nextElement(child, named))
-      values.emplace_back(ops::attributeValue(child, attribute));
-  });
+  return findOrCreate(parent, ChildKey::kAttribute, name, textOf(attrName), textOf(attrValue),
+                      [&](Document& document, Element* element) {
+                        document.setAttribute(element, textOf(attrName), textOf(attrValue));
+                      });
 }
 
 I18NString TRNIDOM_Helper::getElementText(const TRNIDOM_Node& element) {
   if (element.getNodeType() != TRNIDOM_Node::ELEMENT_NODE) return {};
-  const DOMNode* first = nullptr;
+  const Node* first = nullptr;
   std::u16string all;  // of several, which is rare
-  for (const DOMNode* child = ops::firstChild(Access::node(element)); child != nullptr;
-       child = ops::nextSibling(child)) {
+  for (const ChildNode* child = firstListed(Access::node(element)); child != nullptr; child = child->following()) {
     if (!isText(child)) continue;
     if (first == nullptr) {
       first = child;
       continue;
     }
-    if (all.empty()) all = ops::value(first);
-    all += ops::value(child);
+    if (all.empty()) all = ownValue(first);
+    all += ownValue(child);
   }
   if (first == nullptr) return {};
-  return stringOf(all.empty() ? ops::value(first) : Text(all));
+  return stringOf(all.empty() ? ownValue(first) : Text(all));
 }
 
 void TRNIDOM_Helper::getElementText(const TRNIDOM_Node& element, I18NString& out) {
   out = getElementText(element);
+}
+
+// Temporarily built from the rest.
+
+TRNIDOM_Element TRNIDOM_Helper::findNextSiblingElement(const TRNIDOM_Node& node, const I18NString& name) {
+  TRNIDOM_Node at = node.getNextSibling();
+  while (!at.isNull() && (at.getNodeType() != TRNIDOM_Node::ELEMENT_NODE || at.getNodeName() != name))
+    at = at.getNextSibling();
+  return at;
+}
+
+TRNIDOM_Element TRNIDOM_Helper::appendElement(const TRNIDOM_Node& parent, const I18NString& name) {
+  TRNIDOM_Document document =
+      parent.getNodeType() == TRNIDOM_Node::DOCUMENT_NODE ? TRNIDOM_Document(parent) : parent.getOwnerDocument();
+  return TRNIDOM_Node(parent).appendChild(document.createElement(name));
+}
+
+TRNIDOM_Element TRNIDOM_Helper::appendElement(const TRNIDOM_Node& parent, const I18NString& name,
+                                              const I18NString& attrName, const I18NString& attrValue) {
+  TRNIDOM_Document document =
+      parent.getNodeType() == TRNIDOM_Node::DOCUMENT_NODE ? TRNIDOM_Document(parent) : parent.getOwnerDocument();
+  TRNIDOM_Element element = document.createElement(name);
+  element.setAttribute(attrName, attrValue);
+  return TRNIDOM_Node(parent).appendChild(element);
+}
+
+TRNIDOM_Node TRNIDOM_Helper::appendText(const TRNIDOM_Node& parent, const I18NString& text) {
+  return TRNIDOM_Node(parent).appendChild(parent.getOwnerDocument().createTextNode(text));
+}
+
+void TRNIDOM_Helper::getChildAttributes(const TRNIDOM_Node& parent, const I18NString& name, const I18NString& attrName,
+                                        std::vector<I18NString>& values) {
+  for (TRNIDOM_Node child = parent.getFirstChild(); !child.isNull(); child = child.getNextSibling())
+    if (child.getNodeType() == TRNIDOM_Node::ELEMENT_NODE && child.getNodeName() == name)
+      values.push_back(TRNIDOM_Element(child).getAttribute(attrName));
 }

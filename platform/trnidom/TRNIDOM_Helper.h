@@ -11,7 +11,8 @@
 /// Finds elements below a node, and makes those that are missing.
 ///
 /// Names, texts and values are compared exactly, as a whole. A null parent gives a null handle or empty text. Finding
-/// or creating n distinct children under one parent costs O(n) in all.
+/// or creating n distinct children under one parent costs O(n) in all, also where their keys change or some are removed
+/// in between.
 class TRNIDOM_API TRNIDOM_Helper {
  public:
   /// The first child element of that name, or null.

@@ -1,26 +1,33 @@
 #include <trnidom/TRNIDOM_NamedNodeMap.h>
 
-#include "Control.h"
-#include "NodeOps.h"
+#include "store/Document.h"
 
 using namespace trnidom_detail;
 
-TRNIDOM_NamedNodeMap Access::map(const TRNIDOM_Node& element) noexcept {
+TRNIDOM_NamedNodeMap Access::map(const TRNIDOM_Node& element) {
   return TRNIDOM_NamedNodeMap(element);
 }
 
 std::size_t TRNIDOM_NamedNodeMap::getLength() const noexcept {
-  return m_element.isNull() ? 0 : ops::attributeCount(Access::node(m_element));
+  if (m_element.isNull()) return 0;
+  refresh();
+  return m_length;
 }
 
 TRNIDOM_Node TRNIDOM_NamedNodeMap::item(std::size_t index) const noexcept {
   if (index >= getLength()) return {};
-  return Access::handle(ops::attributeAt(Access::node(m_element), index), m_element);
+  if (index < m_index) {
+    m_node = static_cast<Element*>(Access::node(m_element))->firstAttribute;
+    m_index = 0;
+  }
+  for (; m_index < index; ++m_index) m_node = m_node->next;
+  return Access::handle(m_node, m_element);
 }
 
-TRNIDOM_Node TRNIDOM_NamedNodeMap::getNamedItem(const I18NString& name) const noexcept {
+TRNIDOM_Node TRNIDOM_NamedNodeMap::getNamedItem(const I18NString& name) const {
   if (m_element.isNull()) return {};
-  return Access::handle(ops::attribute(Access::node(m_element), textOf(name)), m_element);
+  const auto* element = static_cast<const Element*>(Access::node(m_element));
+  return Access::handle(Access::document(m_element)->attribute(element, textOf(name)), m_element);
 }
 
 TRNIDOM_NamedNodeMap::iterator TRNIDOM_NamedNodeMap::begin() const {
@@ -29,4 +36,15 @@ TRNIDOM_NamedNodeMap::iterator TRNIDOM_NamedNodeMap::begin() const {
 
 TRNIDOM_NamedNodeMap::iterator TRNIDOM_NamedNodeMap::end() const {
   return {this, iterator::kEnd};
+}
+
+/// Starts anew when attributes came or went.
+void TRNIDOM_NamedNodeMap::refresh() const noexcept {
+  const std::uint64_t version = Access::document(m_element)->attributesVersion();
+  if (m_version == version) return;
+  m_version = version;
+  m_node = static_cast<Element*>(Access::node(m_element))->firstAttribute;
+  m_index = 0;
+  m_length = 0;
+  for (const Node* at = m_node; at != nullptr; at = at->next) ++m_length;
 }

@@ -5,68 +5,89 @@
 #include <trnidom/TRNIDOM_NamedNodeMap.h>
 #include <trnidom/TRNIDOM_NodeList.h>
 
-#include "Changes.h"
-#include "Control.h"
-#include "ListRecord.h"
-#include "NodeOps.h"
-#include "Tree.h"
-#include "Xerces.h"
+#include "store/Document.h"
+#include "store/Refusal.h"
 
 using namespace trnidom_detail;
-using xercesc::DOMNode;
 
 namespace {
 
-void requireChild(const char* tried, const TRNIDOM_Node& parent, const TRNIDOM_Node& child) {
-  const DOMNode* above = Access::node(parent);
-  const DOMNode* node = Access::node(child);
-  if (above == nullptr) fail(TRNIDOM_DOMException::INVALID_STATE_ERR, tried, above, "there is no node");
-  if (node == nullptr || ops::parent(node) != above)
-    fail(TRNIDOM_DOMException::NOT_FOUND_ERR, tried, above, describe(node) + " is not its child");
+Node* requireNode(const TRNIDOM_Node& handle) {
+  if (handle.isNull()) throw Refusal{TRNIDOM_DOMException::INVALID_STATE_ERR, "there is no node"};
+  return Access::node(handle);
+}
+
+/// The node that is to be a child of the parent.
+Node* requireOwn(const TRNIDOM_Node& parent, const TRNIDOM_Node& child) {
+  requireNode(parent);
+  if (child.isNull()) throw Refusal{TRNIDOM_DOMException::HIERARCHY_REQUEST_ERR, "the child is null"};
+  if (Access::document(child) != Access::document(parent))
+    throw Refusal{TRNIDOM_DOMException::WRONG_DOCUMENT_ERR, describe(Access::node(child)) + " is of another document"};
+  return Access::node(child);
 }
 
 }  // namespace
 
 I18NString TRNIDOM_Node::getNodeName() const {
-  return isNull() ? I18NString() : stringOf(Text(ops::name(Access::node(*this))));
+  if (isNull()) return {};
+  if (const Name* name = nameOf(m_node)) return stringOf(name->text());
+  switch (m_node->type) {
+    case trnidom_detail::Node::kText:
+      return stringOf(u"#text");
+    case trnidom_detail::Node::kCdata:
+      return stringOf(u"#cdata-section");
+    case trnidom_detail::Node::kComment:
+      return stringOf(u"#comment");
+    default:
+      return stringOf(u"#document");
+  }
 }
 
 unsigned short TRNIDOM_Node::getNodeType() const noexcept {
-  return isNull() ? static_cast<unsigned short>(0) : static_cast<unsigned short>(Access::node(*this)->getNodeType());
+  return isNull() ? static_cast<unsigned short>(0) : static_cast<unsigned short>(m_node->type);
 }
 
 I18NString TRNIDOM_Node::getNodeValue() const {
   if (isNull()) return {};
-  const DOMNode* node = Access::node(*this);
-  return guarded("getNodeValue", node, [&] { return stringOf(ops::value(node)); });
+  std::u16string joined;
+  return stringOf(valueOf(m_node, joined));
 }
 
 TRNIDOM_Node TRNIDOM_Node::getParentNode() const noexcept {
-  return isNull() ? TRNIDOM_Node() : Access::handle(ops::parent(Access::node(*this)), *this);
+  return isNull() || m_node->type == trnidom_detail::Node::kAttribute ? TRNIDOM_Node()
+                                                                      : Access::handle(m_node->parent, *this);
 }
 
-TRNIDOM_Node TRNIDOM_Node::getFirstChild() const noexcept {
-  return isNull() ? TRNIDOM_Node() : Access::handle(ops::firstChild(Access::node(*this)), *this);
+TRNIDOM_Node TRNIDOM_Node::getFirstChild() const {
+  return isNull() ? TRNIDOM_Node() : Access::handle(Access::document(*this)->firstChild(m_node), *this);
 }
 
-TRNIDOM_Node TRNIDOM_Node::getLastChild() const noexcept {
-  return isNull() ? TRNIDOM_Node() : Access::handle(ops::lastChild(Access::node(*this)), *this);
+TRNIDOM_Node TRNIDOM_Node::getLastChild() const {
+  if (isNull()) return {};
+  ChildNode* first = Access::document(*this)->firstChild(m_node);
+  return first != nullptr ? Access::handle(first->previous, *this) : TRNIDOM_Node();
 }
 
 TRNIDOM_Node TRNIDOM_Node::getPreviousSibling() const noexcept {
-  return isNull() ? TRNIDOM_Node() : Access::handle(ops::previousSibling(Access::node(*this)), *this);
+  if (isNull()) return {};
+  const ChildNode* child = asChild(m_node);
+  if (child == nullptr || child->previous->next == nullptr) return {};  // that is the last one
+  return Access::handle(child->previous, *this);
 }
 
 TRNIDOM_Node TRNIDOM_Node::getNextSibling() const noexcept {
-  return isNull() ? TRNIDOM_Node() : Access::handle(ops::nextSibling(Access::node(*this)), *this);
+  return isNull() || asChild(m_node) == nullptr ? TRNIDOM_Node() : Access::handle(m_node->next, *this);
 }
 
 TRNIDOM_NodeList TRNIDOM_Node::getChildNodes() const {
-  return isNull() ? TRNIDOM_NodeList() : childList(*this);
+  return isNull() ? TRNIDOM_NodeList() : Access::childList(*this);
 }
 
 bool TRNIDOM_Node::hasChildNodes() const noexcept {
-  return !isNull() && ops::firstChild(Access::node(*this)) != nullptr;
+  if (isNull()) return false;
+  const bool isValue =
+      m_node->type == trnidom_detail::Node::kAttribute && !m_node->has(trnidom_detail::Node::kHasChildList);
+  return isValue || firstListed(m_node) != nullptr;
 }
 
 TRNIDOM_NamedNodeMap TRNIDOM_Node::getAttributes() const {
@@ -74,66 +95,45 @@ TRNIDOM_NamedNodeMap TRNIDOM_Node::getAttributes() const {
 }
 
 TRNIDOM_Document TRNIDOM_Node::getOwnerDocument() const noexcept {
-  if (isNull()) return {};
-  Control* control = Access::control(*this);
-  return Access::node(*this) == control->document ? TRNIDOM_Node() : Access::handle(control->document, control);
+  if (getNodeType() == DOCUMENT_NODE || isNull()) return {};
+  return Access::handle(Access::document(*this)->node(), *this);
 }
 
 void TRNIDOM_Node::setNodeValue(const I18NString& value) {
-  static constexpr const char* kTried = "setNodeValue";
-  DOMNode* node = Access::node(*this);
-  if (node == nullptr) fail(TRNIDOM_DOMException::INVALID_STATE_ERR, kTried, node, "there is no node");
-  const unsigned short type = getNodeType();
-  if (type == ELEMENT_NODE || type == DOCUMENT_NODE) return;
-  setValue(kTried, Access::control(*this), node, textOf(value));
-  Access::control(*this)->indexes.valueChanged(node);
+  attempt("setNodeValue", *this, [&] {
+    if (hasValue(requireNode(*this))) Access::document(*this)->setValue(m_node, textOf(value));
+  });
 }
 
 TRNIDOM_Node TRNIDOM_Node::appendChild(const TRNIDOM_Node& newChild) {
-  Insertion insertion("appendChild", *this, newChild, nullptr);
-  insertion.run(nullptr);
+  attempt("appendChild", *this, [&] { Access::document(*this)->insert(m_node, requireOwn(*this, newChild), nullptr); });
   return newChild;
 }
 
 TRNIDOM_Node TRNIDOM_Node::insertBefore(const TRNIDOM_Node& newChild, const TRNIDOM_Node& refChild) {
-  static constexpr const char* kTried = "insertBefore";
-  Insertion insertion(kTried, *this, newChild, nullptr);
-  if (!refChild.isNull()) requireChild(kTried, *this, refChild);
-  if (newChild != refChild) insertion.run(Access::node(refChild));
+  attempt("insertBefore", *this,
+          [&] { Access::document(*this)->insert(m_node, requireOwn(*this, newChild), Access::node(refChild)); });
   return newChild;
 }
 
 TRNIDOM_Node TRNIDOM_Node::replaceChild(const TRNIDOM_Node& newChild, const TRNIDOM_Node& oldChild) {
-  static constexpr const char* kTried = "replaceChild";
-  requireChild(kTried, *this, oldChild);
-  DOMNode* old = Access::node(oldChild);
-  Insertion insertion(kTried, *this, newChild, old);
-  if (newChild == oldChild) return oldChild;
-  DOMNode* before = ops::nextSibling(old);
-  if (before == Access::node(newChild)) before = ops::nextSibling(before);
-  removeChildNode(Access::control(*this), Access::node(*this), old);
-  insertion.run(before);
+  attempt("replaceChild", *this, [&] {
+    Document::requireChild(requireNode(*this), Access::node(oldChild));
+    Access::document(*this)->replace(m_node, requireOwn(*this, newChild), Access::node(oldChild));
+  });
   return oldChild;
 }
 
 TRNIDOM_Node TRNIDOM_Node::removeChild(const TRNIDOM_Node& oldChild) {
-  requireChild("removeChild", *this, oldChild);
-  removeChildNode(Access::control(*this), Access::node(*this), Access::node(oldChild));
+  attempt("removeChild", *this, [&] { Access::document(*this)->remove(requireNode(*this), Access::node(oldChild)); });
   return oldChild;
 }
 
 TRNIDOM_Node TRNIDOM_Node::cloneNode(bool deep) const {
   if (isNull()) return {};
-  Control* control = Access::control(*this);
-  DOMNode* node = Access::node(*this);
-  if (node != control->document)
-    return guarded("cloneNode", node, [&] { return Access::handle(copyTree(node, control->document, deep), control); });
+  Document* document = Access::document(*this);
+  if (m_node != document->node()) return Access::handle(document->copy(m_node, deep), *this);
   TRNIDOM_Document copy = newDocument();
-  if (!deep) return copy;
-  guarded("cloneNode", node, [&] {
-    xercesc::DOMDocument* document = Access::control(copy)->document;
-    for (DOMNode* child = ops::firstChild(node); child != nullptr; child = ops::nextSibling(child))
-      ops::link(document, copyTree(child, document, true), nullptr);
-  });
+  if (deep) Access::document(copy)->copyChildren(*document);
   return copy;
 }

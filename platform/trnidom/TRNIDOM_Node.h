@@ -1,61 +1,29 @@
 #ifndef TRNIDOM_TRNIDOM_NODE_H
 #define TRNIDOM_TRNIDOM_NODE_H
 
-#include <atomic>
-#include <cstddef>
 #include <utility>
 
-#include <sys/single_threaded.h>
 #include <trn/I18NString.h>
 #include <trnidom/TRNIDOM_Export.h>
+#include <trnidom/TRNIDOM_HandleCount.h>
 
 class TRNIDOM_Document;
 class TRNIDOM_NamedNodeMap;
 class TRNIDOM_NodeList;
 
 namespace trnidom_detail {
-
-/// A node of the DOM beneath; never defined.
-struct NodeRep;
-
-/// What all handles of one document share. The last handle to go frees the document.
-///
-/// Counting is atomic, but a process that has only ever had one thread is spared the cost.
-struct TRNIDOM_API DocumentControl {
-  std::atomic<std::size_t> handles{0};
-
-  void addHandle() noexcept {
-    if (__libc_single_threaded != 0)
-      handles.store(handles.load(std::memory_order_relaxed) + 1, std::memory_order_relaxed);
-    else
-      handles.fetch_add(1, std::memory_order_relaxed);
-  }
-  void removeHandle() noexcept {
-    if (countDown() == 0) release();
-  }
-
- private:
-  std::size_t countDown() noexcept {
-    if (__libc_single_threaded == 0) return handles.fetch_sub(1, std::memory_order_acq_rel) - 1;
-    const std::size_t left = handles.load(std::memory_order_relaxed) - 1;
-    handles.store(left, std::memory_order_relaxed);
-    return left;
-  }
-  void release() noexcept;
-};
-
 struct Access;
-
+struct Node;
 }  // namespace trnidom_detail
 
 /// A handle to a node of a document, or to none.
 ///
-/// A handle is two words: the node and its document's control block. Copying it never copies a node, `==` means the
+/// A handle is two words: the node and its document. Copying it never copies a node, `==` means the
 /// same node, and any handle keeps its whole document alive. Reading from a null handle gives null, empty or 0;
 /// changing through one throws. Semantics are those of the W3C DOM Level 2 Core.
 ///
-/// Threads: a document, with all handles into it, is used by one thread at a time; different documents by different
-/// threads at once.
+/// Threads: different documents are used by different threads at once, without a lock between them. A document, with
+/// all handles into it, is changed by one thread while no other uses it; it may be read by several.
 ///
 /// Every change throws TRNIDOM_DOMException with the W3C's code when the DOM does not allow it, and std::bad_alloc
 /// when memory is exhausted; the tree is then as it was.
@@ -76,11 +44,11 @@ class TRNIDOM_API TRNIDOM_Node {
 
   /// The null handle.
   TRNIDOM_Node() noexcept = default;
-  TRNIDOM_Node(const TRNIDOM_Node& other) noexcept : m_node(other.m_node), m_control(other.m_control) {
-    if (m_control != nullptr) m_control->addHandle();
+  TRNIDOM_Node(const TRNIDOM_Node& other) noexcept : m_node(other.m_node), m_document(other.m_document) {
+    if (m_document != nullptr) m_document->add();
   }
   TRNIDOM_Node(TRNIDOM_Node&& other) noexcept
-      : m_node(std::exchange(other.m_node, nullptr)), m_control(std::exchange(other.m_control, nullptr)) {}
+      : m_node(std::exchange(other.m_node, nullptr)), m_document(std::exchange(other.m_document, nullptr)) {}
   TRNIDOM_Node& operator=(const TRNIDOM_Node& other) noexcept {
     TRNIDOM_Node copy(other);
     swap(copy);
@@ -88,14 +56,14 @@ class TRNIDOM_API TRNIDOM_Node {
   }
   TRNIDOM_Node& operator=(TRNIDOM_Node&& other) noexcept {
     if (this != &other) {
-      if (m_control != nullptr) m_control->removeHandle();
+      if (m_document != nullptr) m_document->remove();
       m_node = std::exchange(other.m_node, nullptr);
-      m_control = std::exchange(other.m_control, nullptr);
+      m_document = std::exchange(other.m_document, nullptr);
     }
     return *this;
   }
   ~TRNIDOM_Node() {
-    if (m_control != nullptr) m_control->removeHandle();
+    if (m_document != nullptr) m_document->remove();
   }
 
   bool isNull() const noexcept { return m_node == nullptr; }
@@ -115,9 +83,14 @@ class TRNIDOM_API TRNIDOM_Node {
   /// The value of a text, CDATA section, comment, processing instruction or attribute; empty for any other node.
   I18NString getNodeValue() const;
 
+  /// Null for an attribute, as W3C has it.
   TRNIDOM_Node getParentNode() const noexcept;
-  TRNIDOM_Node getFirstChild() const noexcept;
-  TRNIDOM_Node getLastChild() const noexcept;
+
+  /// The children of an attribute are texts, which together are its value.
+  /// @throws std::bad_alloc of an attribute alone, whose text is made when it is asked for.
+  TRNIDOM_Node getFirstChild() const;
+  /// @throws std::bad_alloc as `getFirstChild`.
+  TRNIDOM_Node getLastChild() const;
   TRNIDOM_Node getPreviousSibling() const noexcept;
   TRNIDOM_Node getNextSibling() const noexcept;
 
@@ -154,18 +127,18 @@ class TRNIDOM_API TRNIDOM_Node {
  private:
   friend struct trnidom_detail::Access;
 
-  TRNIDOM_Node(trnidom_detail::NodeRep* node, trnidom_detail::DocumentControl* control) noexcept
-      : m_node(node), m_control(node != nullptr ? control : nullptr) {
-    if (m_control != nullptr) m_control->addHandle();
+  TRNIDOM_Node(trnidom_detail::Node* node, TRNIDOM_HandleCount* document) noexcept
+      : m_node(node), m_document(node != nullptr ? document : nullptr) {
+    if (m_document != nullptr) m_document->add();
   }
 
   void swap(TRNIDOM_Node& other) noexcept {
     std::swap(m_node, other.m_node);
-    std::swap(m_control, other.m_control);
+    std::swap(m_document, other.m_document);
   }
 
-  trnidom_detail::NodeRep* m_node = nullptr;
-  trnidom_detail::DocumentControl* m_control = nullptr;
+  trnidom_detail::Node* m_node = nullptr;
+  TRNIDOM_HandleCount* m_document = nullptr;
 };
 
 #endif

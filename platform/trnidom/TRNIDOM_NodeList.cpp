@@ -1,104 +1,31 @@
 #include <trnidom/TRNIDOM_NodeList.h>
 
-#include <cstdint>
 #include <limits>
-#include <utility>
-#include <vector>
 
-#include "Control.h"
-#include "ListRecord.h"
-#include "NodeOps.h"
-#include "Text.h"
-#include "Tree.h"
+#include "store/Document.h"
 
 using namespace trnidom_detail;
-using xercesc::DOMNode;
 
-namespace {
-
-/// Where the end of a list stands, however long the list is by then.
-constexpr std::size_t kEnd = std::numeric_limits<std::size_t>::max();
-
-}  // namespace
-
-/// What the copies of one list share: the nodes found so far and where the search stands. A change of the document's
-/// structure starts it anew.
-struct trnidom_detail::ListRecord {
-  explicit ListRecord(const TRNIDOM_Node& node) : root(node), children(true), every(false), matches(Text()) {}
-  ListRecord(const TRNIDOM_Node& node, const I18NString& tagName)
-      : root(node), name(tagName), children(false), every(textOf(name) == u"*"), matches(textOf(name)) {}
-
-  /// Searches on until there are more nodes than `index`, or no more. Gives the node there, or null.
-  DOMNode* at(std::size_t index) {
-    const std::uint64_t structure = Access::control(root)->structure;
-    if (!started || structure != seen) {
-      seen = structure;
-      started = true;
-      nodes.clear();
-      next = ops::firstChild(Access::node(root));
-    }
-    while (nodes.size() <= index && next != nullptr) {
-      if (wanted(next)) nodes.push_back(next);
-      next = children ? ops::nextSibling(next) : nextBelow(Access::node(root), next);
-    }
-    return index < nodes.size() ? nodes[index] : nullptr;
-  }
-
-  std::atomic<std::size_t> references{1};
-  const TRNIDOM_Node root;
-  std::vector<DOMNode*> nodes;
-
- private:
-  bool wanted(const DOMNode* node) {
-    if (children) return true;
-    return node->getNodeType() == DOMNode::ELEMENT_NODE && (every || matches(ops::name(node)));
-  }
-
-  const I18NString name;
-  const bool children;
-  const bool every;
-  NameMatcher matches;
-  bool started = false;
-  std::uint64_t seen = 0;
-  DOMNode* next = nullptr;
-};
-
-TRNIDOM_NodeList Access::list(ListRecord* record) noexcept {
-  return TRNIDOM_NodeList(record);
+TRNIDOM_NodeList Access::childList(const TRNIDOM_Node& root) {
+  return {root, TRNIDOM_NodeList::kChildren, I18NString()};
 }
 
-TRNIDOM_NodeList trnidom_detail::childList(const TRNIDOM_Node& root) {
-  return Access::list(new ListRecord(root));
+TRNIDOM_NodeList Access::descendantList(const TRNIDOM_Node& root, const I18NString& name) {
+  const bool all = textOf(name) == u"*";
+  return {root, all ? TRNIDOM_NodeList::kAllElements : TRNIDOM_NodeList::kElementsByName, name};
 }
 
-TRNIDOM_NodeList trnidom_detail::descendantList(const TRNIDOM_Node& root, const I18NString& name) {
-  return Access::list(new ListRecord(root, name));
-}
-
-TRNIDOM_NodeList::TRNIDOM_NodeList(const TRNIDOM_NodeList& other) noexcept : m_record(other.m_record) {
-  if (m_record != nullptr) m_record->references.fetch_add(1, std::memory_order_relaxed);
-}
-
-TRNIDOM_NodeList::TRNIDOM_NodeList(TRNIDOM_NodeList&& other) noexcept
-    : m_record(std::exchange(other.m_record, nullptr)) {}
-
-TRNIDOM_NodeList& TRNIDOM_NodeList::operator=(TRNIDOM_NodeList other) noexcept {
-  std::swap(m_record, other.m_record);
-  return *this;
-}
-
-TRNIDOM_NodeList::~TRNIDOM_NodeList() {
-  if (m_record != nullptr && m_record->references.fetch_sub(1, std::memory_order_acq_rel) == 1) delete m_record;
-}
+TRNIDOM_NodeList::TRNIDOM_NodeList(const TRNIDOM_Node& root, Kind kind, const I18NString& name)
+    : m_root(root), m_name(name), m_kind(kind) {}
 
 std::size_t TRNIDOM_NodeList::getLength() const {
-  if (m_record == nullptr) return 0;
-  m_record->at(kEnd);
-  return m_record->nodes.size();
+  if (m_root.isNull()) return 0;
+  at(std::numeric_limits<std::size_t>::max());
+  return m_length;
 }
 
 TRNIDOM_Node TRNIDOM_NodeList::item(std::size_t index) const {
-  return m_record != nullptr ? Access::handle(m_record->at(index), m_record->root) : TRNIDOM_Node();
+  return m_root.isNull() ? TRNIDOM_Node() : Access::handle(at(index), m_root);
 }
 
 TRNIDOM_NodeList::iterator TRNIDOM_NodeList::begin() const {
@@ -110,5 +37,66 @@ TRNIDOM_NodeList::iterator TRNIDOM_NodeList::end() const {
 }
 
 bool TRNIDOM_NodeList::isAtEnd(std::size_t index) const {
-  return m_record == nullptr || m_record->at(index) == nullptr;
+  return m_root.isNull() || at(index) == nullptr;
+}
+
+/// Goes to the node at that index, or to the last one, and gives the former or null.
+Node* TRNIDOM_NodeList::at(std::size_t index) const {
+  const Document& document = *Access::document(m_root);
+  const std::uint64_t structure = document.structureVersion();
+  // What is appended to the root leaves the children before it where they are.
+  const std::uint64_t order = m_kind == kChildren ? document.orderVersion() : structure;
+  if (m_nodeVersion != order || (m_node == nullptr && m_lengthVersion != structure)) {
+    m_nodeVersion = order;
+    start();
+  }
+  const bool lengthIsKnown = m_lengthVersion == structure;
+  if (lengthIsKnown && index >= m_length) return nullptr;
+  if (index < m_index && index < m_index - index) start();
+  for (; index < m_index; --m_index) m_node = previous(m_node);
+  while (m_node != nullptr && m_index < index) {
+    Node* const following = next(m_node);
+    if (following == nullptr) break;
+    m_node = following;
+    ++m_index;
+  }
+  if (m_node != nullptr && m_index == index) return m_node;
+  m_length = m_node != nullptr ? m_index + 1 : 0;
+  m_lengthVersion = structure;
+  return nullptr;
+}
+
+/// Goes to the first node.
+void TRNIDOM_NodeList::start() const {
+  Document& document = *Access::document(m_root);
+  Node* const root = Access::node(m_root);
+  m_index = 0;
+  if (m_kind == kChildren) {
+    m_node = document.firstChild(root);
+    return;
+  }
+  if (m_wanted == nullptr) m_wanted = document.names().find(textOf(m_name));
+  // A name that no node has is no element's.
+  m_node = m_wanted != nullptr || m_kind == kAllElements ? next(root) : nullptr;
+}
+
+Node* TRNIDOM_NodeList::next(Node* node) const noexcept {
+  if (m_kind == kChildren) return node->next;
+  const Node* const root = Access::node(m_root);
+  do node = nextBelow(root, node);
+  while (node != nullptr && !isWanted(node));
+  return node;
+}
+
+/// There is one.
+Node* TRNIDOM_NodeList::previous(Node* node) const noexcept {
+  if (m_kind == kChildren) return static_cast<ChildNode*>(node)->previous;
+  const Node* const root = Access::node(m_root);
+  do node = previousBelow(root, static_cast<ChildNode*>(node));
+  while (!isWanted(node));
+  return node;
+}
+
+bool TRNIDOM_NodeList::isWanted(const Node* node) const noexcept {
+  return isElement(node) && (m_kind == kAllElements || static_cast<const Element*>(node)->name == m_wanted);
 }

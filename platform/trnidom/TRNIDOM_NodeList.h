@@ -2,31 +2,32 @@
 #define TRNIDOM_TRNIDOM_NODELIST_H
 
 #include <cstddef>
+#include <cstdint>
 
+#include <trn/I18NString.h>
 #include <trnidom/TRNIDOM_Export.h>
 #include <trnidom/TRNIDOM_IndexIterator.h>
 #include <trnidom/TRNIDOM_Node.h>
 
 namespace trnidom_detail {
-struct ListRecord;
+struct Name;
 }
 
 /// A live list of nodes, in document order.
 ///
-/// The list follows every change of the tree. It is filled as far as it was asked for, `item` is O(1) thereafter, and
-/// a whole loop costs time linear in the tree below its root, also when the loop sets values or attributes. A list
-/// keeps its document alive. Iterating while changing the structure of the tree visits what stands at the next index.
+/// The list follows every change of the tree. It knows where it stands: `item` goes on from there, forward or backward,
+/// so that a whole loop costs time linear in the tree below its root, also when the loop sets values or attributes, or
+/// appends to a node whose children the list holds. A list keeps its document alive. Iterating while changing the
+/// structure of the tree visits what stands at the next index.
+///
+/// Threads: asking a list moves it on, so that one list is used by one thread at a time.
 class TRNIDOM_API TRNIDOM_NodeList {
  public:
   using iterator = TRNIDOM_IndexIterator<TRNIDOM_NodeList>;
   using const_iterator = iterator;
 
   /// The empty list.
-  TRNIDOM_NodeList() noexcept = default;
-  TRNIDOM_NodeList(const TRNIDOM_NodeList& other) noexcept;
-  TRNIDOM_NodeList(TRNIDOM_NodeList&& other) noexcept;
-  TRNIDOM_NodeList& operator=(TRNIDOM_NodeList other) noexcept;
-  ~TRNIDOM_NodeList();
+  TRNIDOM_NodeList() = default;
 
   std::size_t getLength() const;
 
@@ -40,10 +41,30 @@ class TRNIDOM_API TRNIDOM_NodeList {
   friend struct trnidom_detail::Access;
   friend iterator;
 
-  explicit TRNIDOM_NodeList(trnidom_detail::ListRecord* record) noexcept : m_record(record) {}
-  bool isAtEnd(std::size_t index) const;
+  enum Kind : unsigned char { kChildren, kElementsByName, kAllElements };
 
-  trnidom_detail::ListRecord* m_record = nullptr;
+  TRNIDOM_NodeList(const TRNIDOM_Node& root, Kind kind, const I18NString& name);
+
+  bool isAtEnd(std::size_t index) const;
+  trnidom_detail::Node* at(std::size_t index) const;
+  void start() const;
+  trnidom_detail::Node* next(trnidom_detail::Node* node) const noexcept;
+  trnidom_detail::Node* previous(trnidom_detail::Node* node) const noexcept;
+  bool isWanted(const trnidom_detail::Node* node) const noexcept;
+
+  TRNIDOM_Node m_root;
+  I18NString m_name;
+  Kind m_kind = kChildren;
+
+  // Where the list stands: a node and its index, as of a version of the document.
+  mutable trnidom_detail::Node* m_node = nullptr;
+  mutable std::size_t m_index = 0;
+  mutable const trnidom_detail::Name* m_wanted = nullptr;
+  mutable std::uint64_t m_nodeVersion = kNoVersion;
+  mutable std::size_t m_length = 0;
+  mutable std::uint64_t m_lengthVersion = kNoVersion;
+
+  static constexpr std::uint64_t kNoVersion = static_cast<std::uint64_t>(-1);
 };
 
 #endif

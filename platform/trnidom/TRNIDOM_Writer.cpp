@@ -1,23 +1,74 @@
 #include <trnidom/TRNIDOM_Writer.h>
 
 #include <algorithm>
+#include <cstdint>
+#include <cstring>
 
 #include <trnidom/TRNIDOM_DOMException.h>
 
-#include "Control.h"
-#include "NodeOps.h"
-#include "Xerces.h"
+#include "store/Document.h"
+#include "store/Refusal.h"
+#include "text/Utf8.h"
 
 using namespace trnidom_detail;
-using xercesc::DOMNode;
 
 namespace {
 
-/// What stands for itself and what does not, by the place a text is written in.
-enum class Place { kText, kAttribute, kVerbatim };
+/// What stands for itself and what does not, by what a text is written into.
+enum class Escaping { kText, kAttribute, kNone };
 
 /// Levels below this one are indented like it, so that the size of what is written stays linear in the tree's.
 constexpr std::size_t kDeepest = 100;
+
+/// Text that grows at its end.
+class Output {
+ public:
+  /// Room for so many bytes, to be written through the pointer; `end` says where they end.
+  char* room(std::size_t size) {
+    if (size > m_bytes.size() - m_size) grow(size);
+    return m_bytes.data() + m_size;
+  }
+  void end(const char* behind) noexcept { m_size = static_cast<std::size_t>(behind - m_bytes.data()); }
+
+  void put(std::string_view bytes) {
+    char* at = room(bytes.size());
+    std::memcpy(at, bytes.data(), bytes.size());
+    m_size += bytes.size();
+  }
+  void fill(std::size_t count, char byte) {
+    std::memset(room(count), byte, count);
+    m_size += count;
+  }
+
+  std::string take() {
+    m_bytes.resize(m_size);
+    return std::move(m_bytes);
+  }
+
+ private:
+  void grow(std::size_t size) {
+    constexpr std::size_t kFirst = 512;
+    m_bytes.resize(std::max({kFirst, m_size + size, m_bytes.size() * 2}));
+  }
+
+  std::string m_bytes;
+  std::size_t m_size = 0;
+};
+
+/// Writes eight code units as they are when all of them stand for themselves everywhere.
+inline bool putPlain(const char16_t* from, char* to) noexcept {
+  using Units = std::uint16_t __attribute__((vector_size(16)));
+  using Bytes = std::uint8_t __attribute__((vector_size(8)));
+  Units units;
+  std::memcpy(&units, from, sizeof units);
+  const auto other = (units - 0x20 > 0x5F) | (units == '&') | (units == '<') | (units == '>') | (units == '"');
+  std::uint64_t halves[2];
+  std::memcpy(halves, &other, sizeof halves);
+  if ((halves[0] | halves[1]) != 0) return false;
+  const auto bytes = __builtin_convertvector(units, Bytes);
+  std::memcpy(to, &bytes, sizeof bytes);
+  return true;
+}
 
 class Writer {
  public:
@@ -25,212 +76,196 @@ class Writer {
 
   void declaration() {
     if (!m_options.declaration) return;
-    m_out += "<?xml version=\"1.0\" encoding=\"UTF-8\"?>";
-    if (m_options.indent != 0) m_out += '\n';
+    m_out.put("<?xml version=\"1.0\" encoding=\"UTF-8\"?>");
+    if (m_options.indent != 0) m_out.put("\n");
   }
 
   /// The node and all below it. On the way down the depth is counted, on the way up parents are asked for.
-  void tree(const DOMNode* root) {
-    const DOMNode* node = root;
+  void tree(const Node* root) {
+    const Node* node = root;
     while (true) {
       open(node);
-      if (const DOMNode* child = ops::firstChild(node); child != nullptr && hasContent(node)) {
+      if (node->type != Node::kAttribute && firstListed(node) != nullptr) {
         enter(node);
-        node = child;
+        node = firstListed(node);
         continue;
       }
       while (true) {
         if (node == root) return;
-        const DOMNode* next = ops::nextSibling(node);
-        if (next != nullptr) {
-          node = next;
+        if (node->next != nullptr) {
+          node = node->next;
           newLine();
           break;
         }
-        node = ops::parent(node);
+        node = node->parent;
         leave(node);
       }
     }
   }
 
-  std::string take() { return std::move(m_out); }
+  std::string take() { return m_out.take(); }
 
  private:
-  static bool hasContent(const DOMNode* node) noexcept {
-    return node->getNodeType() == DOMNode::ELEMENT_NODE || node->getNodeType() == DOMNode::DOCUMENT_NODE;
-  }
-
-  static bool isMixed(const DOMNode* element) noexcept {
-    for (const DOMNode* child = ops::firstChild(element); child != nullptr; child = ops::nextSibling(child)) {
-      const auto type = child->getNodeType();
-      if (type == DOMNode::TEXT_NODE || type == DOMNode::CDATA_SECTION_NODE) return true;
-    }
+  static bool isMixed(const Node* element) noexcept {
+    for (const ChildNode* child = firstListed(element); child != nullptr; child = child->following())
+      if (isText(child)) return true;
     return false;
   }
 
   /// A node without its children: of an element with children, the start tag.
-  void open(const DOMNode* node) {
-    switch (node->getNodeType()) {
-      case DOMNode::ELEMENT_NODE: {
-        m_out += '<';
+  void open(const Node* node) {
+    switch (node->type) {
+      case Node::kElement:
+        m_out.put("<");
         name(node);
-        const std::size_t count = ops::attributeCount(node);
-        for (std::size_t i = 0; i < count; ++i) {
-          m_out += ' ';
-          open(ops::attributeAt(node, i));
+        for (const auto* at = static_cast<const Element*>(node)->firstAttribute; at != nullptr; at = at->following()) {
+          m_out.put(" ");
+          open(at);
         }
-        m_out += ops::firstChild(node) != nullptr ? ">" : "/>";
+        m_out.put(firstListed(node) != nullptr ? ">" : "/>");
         break;
-      }
-      case DOMNode::ATTRIBUTE_NODE:
+      case Node::kAttribute:
         name(node);
-        m_out += "=\"";
-        text(node, Place::kAttribute);
-        m_out += '"';
+        m_out.put("=\"");
+        if (node->has(Node::kHasChildList)) {
+          for (const ChildNode* child = firstListed(node); child != nullptr; child = child->following())
+            text(ownValue(child), node, Escaping::kAttribute);
+        } else {
+          text(ownValue(node), node, Escaping::kAttribute);
+        }
+        m_out.put("\"");
         break;
-      case DOMNode::TEXT_NODE:
-        text(node, Place::kText);
+      case Node::kText:
+        text(ownValue(node), node, Escaping::kText);
         break;
-      case DOMNode::CDATA_SECTION_NODE:
+      case Node::kCdata:
         refuse(node, u"]]>");
-        m_out += "<![CDATA[";
-        text(node, Place::kVerbatim);
-        m_out += "]]>";
+        m_out.put("<![CDATA[");
+        text(ownValue(node), node, Escaping::kNone);
+        m_out.put("]]>");
         break;
-      case DOMNode::COMMENT_NODE:
+      case Node::kComment:
         refuse(node, u"--");
-        if (!ops::value(node).empty() && ops::value(node).back() == u'-') unwritable(node, "it ends in \"-\"");
-        m_out += "<!--";
-        text(node, Place::kVerbatim);
-        m_out += "-->";
+        if (!ownValue(node).empty() && ownValue(node).back() == u'-') unwritable(node, "it ends in \"-\"");
+        m_out.put("<!--");
+        text(ownValue(node), node, Escaping::kNone);
+        m_out.put("-->");
         break;
-      case DOMNode::PROCESSING_INSTRUCTION_NODE:
+      case Node::kInstruction:
         instruction(node);
         break;
-      default:
+      case Node::kDocument:
         break;
     }
   }
 
-  void instruction(const DOMNode* node) {
+  void instruction(const Node* node) {
     refuse(node, u"?>");
-    m_out += "<?";
+    m_out.put("<?");
     name(node);
-    const Text data = ops::value(node);
+    const Text data = ownValue(node);
     if (!data.empty()) {
       if (data.find_first_of(u" \t\n") == 0) unwritable(node, "it begins with white space");
-      m_out += ' ';
-      text(node, Place::kVerbatim);
+      m_out.put(" ");
+      text(data, node, Escaping::kNone);
     }
-    m_out += "?>";
+    m_out.put("?>");
   }
 
   /// From a start tag to the first child. Below an element with text nothing is indented.
-  void enter(const DOMNode* node) {
-    if (node->getNodeType() == DOMNode::DOCUMENT_NODE) return;
+  void enter(const Node* node) {
+    if (node->type == Node::kDocument) return;
     if (m_verbatim != 0 || (m_options.indent != 0 && isMixed(node))) ++m_verbatim;
     ++m_depth;
     newLine();
   }
 
-  void leave(const DOMNode* node) {
-    if (node->getNodeType() == DOMNode::DOCUMENT_NODE) return;
+  void leave(const Node* node) {
+    if (node->type == Node::kDocument) return;
     --m_depth;
     newLine();
     if (m_verbatim != 0) --m_verbatim;
-    m_out += "</";
+    m_out.put("</");
     name(node);
-    m_out += '>';
+    m_out.put(">");
   }
 
   void newLine() {
     if (m_options.indent == 0 || m_verbatim != 0) return;
-    m_out += '\n';
-    m_out.append(std::min(m_depth, kDeepest) * m_options.indent, ' ');
+    m_out.put("\n");
+    m_out.fill(std::min(m_depth, kDeepest) * m_options.indent, ' ');
   }
 
-  void name(const DOMNode* node) {
-    for (const char16_t* at = ops::name(node); *at != 0;) at = character(at, at + 2, node);
-  }
+  void name(const Node* node) { m_out.put(nameOf(node)->utf8()); }
 
-  void text(const DOMNode* node, Place place) {
-    const Text value = ops::value(node);
-    const char16_t* const end = value.data() + value.size();
-    for (const char16_t* at = value.data(); at != end;) {
-      if (*at > u'>') {
-        at = character(at, end, node);
-        continue;
+  void text(Text value, const Node* node, Escaping escaping) {
+    constexpr std::ptrdiff_t kPiece = 1024;  // room is made for one at a time
+    constexpr std::ptrdiff_t kLongest = 6;   // "&quot;"
+    constexpr std::ptrdiff_t kBlock = 8;
+    const char16_t* at = value.data();
+    const char16_t* const end = at + value.size();
+    while (at != end) {
+      const char16_t* const pieceEnd = at + std::min(end - at, kPiece);
+      char* out = m_out.room(static_cast<std::size_t>((pieceEnd - at + 1) * kLongest));
+      while (at < pieceEnd) {
+        while (pieceEnd - at >= kBlock && putPlain(at, out)) {
+          at += kBlock;
+          out += kBlock;
+        }
+        for (std::ptrdiff_t i = 0; i < kBlock && at < pieceEnd; ++i)
+          out = *at > u'>' ? character(at, end, out, node) : escaped(*at++, out, node, escaping);
       }
-      escaped(*at++, node, place);
+      m_out.end(out);
     }
   }
 
   /// A character up to ">": all that may need escaping.
-  void escaped(char16_t unit, const DOMNode* node, Place place) {
+  static char* escaped(char16_t unit, char* out, const Node* node, Escaping escaping) {
+    const auto put = [&out](std::string_view bytes) {
+      std::memcpy(out, bytes.data(), bytes.size());
+      return out + bytes.size();
+    };
     switch (unit) {
       case u'&':
-        m_out += place == Place::kVerbatim ? "&" : "&amp;";
-        return;
+        return put(escaping == Escaping::kNone ? "&" : "&amp;");
       case u'<':
-        m_out += place == Place::kVerbatim ? "<" : "&lt;";
-        return;
+        return put(escaping == Escaping::kNone ? "<" : "&lt;");
       case u'>':  // in text it might end "]]>"
-        m_out += place == Place::kText ? "&gt;" : ">";
-        return;
+        return put(escaping == Escaping::kText ? "&gt;" : ">");
       case u'"':
-        m_out += place == Place::kAttribute ? "&quot;" : "\"";
-        return;
+        return put(escaping == Escaping::kAttribute ? "&quot;" : "\"");
       case u'\t':
-        m_out += place == Place::kAttribute ? "&#9;" : "\t";
-        return;
+        return put(escaping == Escaping::kAttribute ? "&#9;" : "\t");
       case u'\n':
-        m_out += place == Place::kAttribute ? "&#10;" : "\n";
-        return;
+        return put(escaping == Escaping::kAttribute ? "&#10;" : "\n");
       case u'\r':  // would be read as a line feed
-        if (place == Place::kVerbatim) unwritable(node, "it has a carriage return");
-        m_out += "&#13;";
-        return;
+        if (escaping == Escaping::kNone) unwritable(node, "it has a carriage return");
+        return put("&#13;");
       default:
         if (unit < u' ') unwritable(node, "it has a control character");
-        m_out += static_cast<char>(unit);
+        *out = static_cast<char>(unit);
+        return out + 1;
     }
   }
 
-  /// Writes the character that begins there and gives the place behind it.
-  const char16_t* character(const char16_t* at, const char16_t* end, const DOMNode* node) {
-    const auto byte = [this](unsigned value) { m_out += static_cast<char>(static_cast<unsigned char>(value)); };
-    const unsigned unit = *at++;
-    if (unit < 0x80) {
-      byte(unit);
-    } else if (unit < 0x800) {
-      byte(0xC0 | unit >> 6);
-      byte(0x80 | (unit & 0x3F));
-    } else if (unit < 0xD800 || (unit > 0xDFFF && unit < 0xFFFE)) {
-      byte(0xE0 | unit >> 12);
-      byte(0x80 | (unit >> 6 & 0x3F));
-      byte(0x80 | (unit & 0x3F));
-    } else if (unit < 0xDC00 && at < end && *at >= 0xDC00 && *at < 0xE000) {
-      const unsigned code = 0x10000 + ((unit - 0xD800) << 10) + (*at++ - 0xDC00U);
-      byte(0xF0 | code >> 18);
-      byte(0x80 | (code >> 12 & 0x3F));
-      byte(0x80 | (code >> 6 & 0x3F));
-      byte(0x80 | (code & 0x3F));
-    } else {
-      unwritable(node, unit < 0xFFFE ? "it has a lone surrogate" : "it has a character that XML does not have");
-    }
-    return at;
+  /// Writes the character that begins at `at`, which moves behind it.
+  static char* character(const char16_t*& at, const char16_t* end, char* out, const Node* node) {
+    const char32_t character = nextCharacter(at, end);
+    if (character >= 0xD800 && character < 0xE000) unwritable(node, "it has a lone surrogate");
+    if (character == 0xFFFE || character == 0xFFFF) unwritable(node, "it has a character that XML does not have");
+    return putUtf8(character, out);
   }
 
-  void refuse(const DOMNode* node, Text what) {
-    if (ops::value(node).find(what) != Text::npos) unwritable(node, "it has \"" + stringOf(what).toUtf8() + '"');
+  static void refuse(const Node* node, Text what) {
+    if (ownValue(node).find(what) != Text::npos) unwritable(node, "it has \"" + stringOf(what).toUtf8() + '"');
   }
 
-  [[noreturn]] static void unwritable(const DOMNode* node, const std::string& because) {
-    fail(TRNIDOM_DOMException::INVALID_CHARACTER_ERR, "toString", node, because);
+  [[noreturn]] static void unwritable(const Node* node, const std::string& because) {
+    throwRefused({TRNIDOM_DOMException::INVALID_CHARACTER_ERR, because}, "toString", node);
   }
 
   const TRNIDOM_Writer::Options& m_options;
-  std::string m_out;
+  Output m_out;
   std::size_t m_depth = 0;
   std::size_t m_verbatim = 0;  // elements open since the first one with text
 };
@@ -239,11 +274,8 @@ class Writer {
 
 std::string TRNIDOM_Writer::toString(const TRNIDOM_Node& node, const Options& options) {
   if (node.isNull()) return {};
-  const DOMNode* root = Access::node(node);
-  return guarded("toString", root, [&] {
-    Writer writer(options);
-    writer.declaration();
-    writer.tree(root);
-    return writer.take();
-  });
+  Writer writer(options);
+  writer.declaration();
+  writer.tree(Access::node(node));
+  return writer.take();
 }

@@ -21,7 +21,7 @@ check() {
   [ -f "$libdir/$library.so.$version" ] || fail "$library: no file of version $version"
 
   local needed
-  needed=$(dynamic NEEDED "$library.so" | grep -Ev "$runtime" | sed 's/\.so.*//; s/-[0-9.]*$//' | sort | xargs)
+  needed=$(dynamic NEEDED "$library.so" | grep -Ev "$runtime" | sed 's/\.so.*//; s/-[0-9.]*$//' | LC_ALL=C sort | xargs)
   [ "$needed" = "$*" ] || fail "$library: needs \"$needed\" and not \"$*\""
 
   # The interface is what the headers declare with the library's export macro, classes and functions alike.
@@ -37,5 +37,5 @@ check() {
 }
 
 check libTRNCore trn libicuuc
-check libTRNIDOM trnidom libTRNCore libxerces-c
+check libTRNIDOM trnidom libTRNCore libexpat libicuuc
 check libDXMD_ActionHelper dxmd libTRNCore libTRNIDOM

@@ -97,7 +97,7 @@ void operator delete(void* block, std::size_t) noexcept {
 namespace dxmd_test {
 
 void withEachNewFailing(const std::function<void()>& action) {
-  action();  // what is made but once, such as Xerces-C's own tables, is there from now on
+  action();  // what is made but once is there from now on
   std::size_t number = 0;
   while (run(number, number, action).allocations > number) ++number;
 }

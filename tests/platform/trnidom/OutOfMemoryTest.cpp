@@ -59,7 +59,9 @@ TEST(OutOfMemory, RefusingToParse) {
 }
 
 TEST(OutOfMemory, Copying) {
-  const TRNIDOM_Element source = parsed("<a x='1'><b y='2'>text</b><!--c--><![CDATA[d]]></a>");
+  std::string xml = "<a x='1'><!--c--><![CDATA[d]]>";
+  for (int i = 0; i < 2000; ++i) xml += "<b" + std::to_string(i) + " y='2'>" + kLong + "</b" + std::to_string(i) + ">";
+  const TRNIDOM_Element source = parsed(xml + "</a>");
   EXPECT_LT(0U, withEachAllocationFailing([&] {
               TRNIDOM_Document document = newDocument();
               document.appendChild(document.importNode(source, true));

@@ -1,0 +1,78 @@
+#ifndef TRNIDOM_STORE_NAMES_H
+#define TRNIDOM_STORE_NAMES_H
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string_view>
+#include <vector>
+
+#include "store/Arena.h"
+#include "text/Text.h"
+
+namespace trnidom_detail {
+
+/// A name of elements, attributes or processing instructions. Within a document the same name is the same object.
+struct Name {
+  std::size_t hash;          ///< once the document has many names
+  std::uint32_t length;      ///< in UTF-16 code units, which follow this object
+  std::uint32_t utf8Length;  ///< in bytes, which follow the code units
+
+  Text text() const noexcept { return {reinterpret_cast<const char16_t*>(this + 1), length}; }
+  std::string_view utf8() const noexcept {
+    return {reinterpret_cast<const char*>(reinterpret_cast<const char16_t*>(this + 1) + length), utf8Length};
+  }
+};
+
+/// The names of one document. A few are looked through one by one; more are in a hash table.
+class Names {
+ public:
+  explicit Names(Arena& arena) noexcept : m_arena(arena) {}
+  Names(const Names&) = delete;
+  Names& operator=(const Names&) = delete;
+
+  /// The name, or null when no node ever had it. Writes nothing.
+  const Name* find(Text name) const noexcept {
+    const Name* recent = findRecent(name);
+    return recent != nullptr ? recent : findAmongAll(name);
+  }
+
+  /// Like `find`, but looks only among the recent names, and never finds the empty name. A name that is found is valid.
+  const Name* findRecent(Text name) const noexcept {
+    const Name* recent = m_recent[slot(name)];
+    return recent != nullptr && isText(recent, name) ? recent : nullptr;
+  }
+
+  /// The name, which is a valid one, made when it is new.
+  /// @throws std::bad_alloc
+  const Name* intern(Text name);
+
+ private:
+  static constexpr std::size_t kFew = 16;
+  static constexpr std::size_t kRecent = 64;
+
+  /// The place of a name in the direct-mapped cache of recent names.
+  static std::size_t slot(Text name) noexcept {
+    return name.empty() ? 0 : (name.size() * 5 + name.front() + std::size_t{name.back()} * 3) % kRecent;
+  }
+  static bool isText(const Name* candidate, Text name) noexcept {
+    return candidate->length == name.size() &&
+           std::memcmp(candidate + 1, name.data(), name.size() * sizeof(char16_t)) == 0;
+  }
+
+  const Name* findAmongAll(Text name) const noexcept;
+  const Name* findInTable(Text name, std::size_t hash) const noexcept;
+  Name* make(Text name);
+  void addToTable(Name* name);
+
+  Arena& m_arena;
+  std::array<const Name*, kRecent> m_recent{};
+  std::array<Name*, kFew> m_few;     // the first names, while there are no more
+  std::vector<const Name*> m_table;  // open addressing, null where free
+  std::size_t m_count = 0;
+};
+
+}  // namespace trnidom_detail
+
+#endif
