@@ -21,7 +21,8 @@ void requireNamespace(Text uri, Text name) {
   const std::size_t colon = name.find(u':');
   const Text prefix = colon == Text::npos ? Text() : name.substr(0, colon);
   const Text local = colon == Text::npos ? name : name.substr(colon + 1);
-  require(colon != 0 && local.find(u':') == Text::npos && isXmlName(local), "a malformed qualified name");
+  const bool isQualified = colon == Text::npos || (colon != 0 && local.find(u':') == Text::npos && isXmlName(local));
+  require(isQualified, "a malformed qualified name");
   require(prefix.empty() || !uri.empty(), "a prefix without a namespace");
   require(prefix != u"xml" || uri == kXmlNamespace, "the prefix \"xml\" in another namespace");
   require((prefix == u"xmlns" || name == u"xmlns") == (uri == kXmlnsNamespace),

@@ -20,9 +20,35 @@ enum class Escaping { kText, kAttribute, kNone };
 /// Levels below this one are indented like it, so that the size of what is written stays linear in the tree's.
 constexpr std::size_t kDeepest = 100;
 
+/// Copies bytes of which there are mostly few, and gives the place behind them.
+inline char* copyShort(std::string_view bytes, char* to) noexcept {
+  const std::size_t size = bytes.size();
+  const char* const from = bytes.data();
+  const auto copy = [&](std::size_t at, auto word) {
+    std::memcpy(&word, from + at, sizeof word);
+    std::memcpy(to + at, &word, sizeof word);
+  };
+  // The last word may overlap the one before it.
+  if (size > 16) {
+    std::memcpy(to, from, size);
+  } else if (size >= 8) {
+    copy(0, std::uint64_t{});
+    copy(size - 8, std::uint64_t{});
+  } else if (size >= 4) {
+    copy(0, std::uint32_t{});
+    copy(size - 4, std::uint32_t{});
+  } else {
+    for (std::size_t at = 0; at < size; ++at) to[at] = from[at];
+  }
+  return to + size;
+}
+
 /// Text that grows at its end.
 class Output {
  public:
+  /// @param expected  the number of bytes that there will be, as far as is known.
+  explicit Output(std::size_t expected) { m_bytes.reserve(expected); }
+
   /// Room for so many bytes, to be written through the pointer; `end` says where they end.
   char* room(std::size_t size) {
     if (size > m_bytes.size() - m_size) grow(size);
@@ -30,10 +56,10 @@ class Output {
   }
   void end(const char* behind) noexcept { m_size = static_cast<std::size_t>(behind - m_bytes.data()); }
 
-  void put(std::string_view bytes) {
-    char* at = room(bytes.size());
-    std::memcpy(at, bytes.data(), bytes.size());
-    m_size += bytes.size();
+  void put(std::string_view bytes) { end(copyShort(bytes, room(bytes.size()))); }
+  void put(std::string_view before, std::string_view bytes, std::string_view behind) {
+    char* const at = room(before.size() + bytes.size() + behind.size());
+    end(copyShort(behind, copyShort(bytes, copyShort(before, at))));
   }
   void fill(std::size_t count, char byte) {
     std::memset(room(count), byte, count);
@@ -46,9 +72,15 @@ class Output {
   }
 
  private:
+  /// What was reserved is not touched before it is needed, since that is when the system supplies it.
   void grow(std::size_t size) {
-    constexpr std::size_t kFirst = 512;
-    m_bytes.resize(std::max({kFirst, m_size + size, m_bytes.size() * 2}));
+    constexpr std::size_t kStep = std::size_t{64} << 10;
+    const std::size_t needed = m_size + size;
+    const std::size_t step = std::min(std::max(m_bytes.size(), std::size_t{512}), kStep);
+    if (needed + step <= m_bytes.capacity())
+      m_bytes.resize(needed + step);
+    else
+      m_bytes.resize(needed <= m_bytes.capacity() ? m_bytes.capacity() : std::max(needed + step, needed * 3 / 2));
   }
 
   std::string m_bytes;
@@ -72,7 +104,7 @@ inline bool putPlain(const char16_t* from, char* to) noexcept {
 
 class Writer {
  public:
-  explicit Writer(const TRNIDOM_Writer::Options& options) : m_options(options) {}
+  Writer(const TRNIDOM_Writer::Options& options, std::size_t expected) : m_options(options), m_out(expected) {}
 
   void declaration() {
     if (!m_options.declaration) return;
@@ -116,24 +148,13 @@ class Writer {
   void open(const Node* node) {
     switch (node->type) {
       case Node::kElement:
-        m_out.put("<");
-        name(node);
-        for (const auto* at = static_cast<const Element*>(node)->firstAttribute; at != nullptr; at = at->following()) {
-          m_out.put(" ");
-          open(at);
-        }
+        m_out.put("<", nameOf(node)->utf8(), "");
+        for (const auto* at = static_cast<const Element*>(node)->firstAttribute; at != nullptr; at = at->following())
+          attribute(" ", at);
         m_out.put(firstListed(node) != nullptr ? ">" : "/>");
         break;
       case Node::kAttribute:
-        name(node);
-        m_out.put("=\"");
-        if (node->has(Node::kHasChildList)) {
-          for (const ChildNode* child = firstListed(node); child != nullptr; child = child->following())
-            text(ownValue(child), node, Escaping::kAttribute);
-        } else {
-          text(ownValue(node), node, Escaping::kAttribute);
-        }
-        m_out.put("\"");
+        attribute("", static_cast<const Attribute*>(node));
         break;
       case Node::kText:
         text(ownValue(node), node, Escaping::kText);
@@ -159,10 +180,20 @@ class Writer {
     }
   }
 
+  void attribute(std::string_view before, const Attribute* node) {
+    m_out.put(before, node->name->utf8(), "=\"");
+    if (node->has(Node::kHasChildList)) {
+      for (const ChildNode* child = firstListed(node); child != nullptr; child = child->following())
+        text(ownValue(child), node, Escaping::kAttribute);
+    } else {
+      text(ownValue(node), node, Escaping::kAttribute);
+    }
+    m_out.put("\"");
+  }
+
   void instruction(const Node* node) {
     refuse(node, u"?>");
-    m_out.put("<?");
-    name(node);
+    m_out.put("<?", nameOf(node)->utf8(), "");
     const Text data = ownValue(node);
     if (!data.empty()) {
       if (data.find_first_of(u" \t\n") == 0) unwritable(node, "it begins with white space");
@@ -185,9 +216,7 @@ class Writer {
     --m_depth;
     newLine();
     if (m_verbatim != 0) --m_verbatim;
-    m_out.put("</");
-    name(node);
-    m_out.put(">");
+    m_out.put("</", nameOf(node)->utf8(), ">");
   }
 
   void newLine() {
@@ -195,8 +224,6 @@ class Writer {
     m_out.put("\n");
     m_out.fill(std::min(m_depth, kDeepest) * m_options.indent, ' ');
   }
-
-  void name(const Node* node) { m_out.put(nameOf(node)->utf8()); }
 
   void text(Text value, const Node* node, Escaping escaping) {
     constexpr std::ptrdiff_t kPiece = 1024;  // room is made for one at a time
@@ -274,7 +301,10 @@ class Writer {
 
 std::string TRNIDOM_Writer::toString(const TRNIDOM_Node& node, const Options& options) {
   if (node.isNull()) return {};
-  Writer writer(options);
+  const Document& document = *Access::document(node);
+  const bool isWhole =
+      node.getNodeType() == TRNIDOM_Node::DOCUMENT_NODE || document.documentElement() == Access::node(node);
+  Writer writer(options, isWhole ? document.expectedSize() : 0);
   writer.declaration();
   writer.tree(Access::node(node));
   return writer.take();

@@ -33,12 +33,4 @@ AttributeIndexes::Place AttributeIndexes::place(Element* element, Text name) {
   return {isThere ? at->second : nullptr, at != index.begin() ? std::prev(at)->second : nullptr};
 }
 
-void AttributeIndexes::adding(const Element* element, Attribute* attribute) {
-  if (element->has(Node::kManyAttributes)) m_indexes.find(element)->second.emplace(attribute->name->text(), attribute);
-}
-
-void AttributeIndexes::removing(const Element* element, const Attribute* attribute) noexcept {
-  if (element->has(Node::kManyAttributes)) m_indexes.find(element)->second.erase(attribute->name->text());
-}
-
 }  // namespace trnidom_detail

@@ -35,11 +35,16 @@ class AttributeIndexes {
 
   /// To be told before an attribute comes, which then may not fail to come.
   /// @throws std::bad_alloc
-  void adding(const Element* element, Attribute* attribute);
+  void adding(const Element* element, Attribute* attribute) {
+    if (element->has(Node::kManyAttributes))
+      m_indexes.find(element)->second.emplace(attribute->name->text(), attribute);
+  }
 
   /// To be told before an attribute goes.
 
-  void removing(const Element* element, const Attribute* attribute) noexcept;
+  void removing(const Element* element, const Attribute* attribute) noexcept {
+    if (element->has(Node::kManyAttributes)) m_indexes.find(element)->second.erase(attribute->name->text());
+  }
 
  private:
   using Index = std::map<Text, Attribute*>;

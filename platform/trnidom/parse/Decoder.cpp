@@ -211,7 +211,7 @@ bool Decoder::convert() {
     const char* source = m_bytes.data();
     UErrorCode status = U_ZERO_ERROR;
     ucnv_toUnicode(m_converter.get(), &target, m_units.data() + m_units.size(), &source, source + m_bytes.size(),
-                   nullptr, m_hasAllBytes, &status);
+                   nullptr, m_hasAllBytes ? 1 : 0, &status);
     if (status == U_MEMORY_ALLOCATION_ERROR) throw std::bad_alloc();
     m_bytes.remove_prefix(static_cast<std::size_t>(source - m_bytes.data()));
     m_units.resize(static_cast<std::size_t>(target - m_units.data()));

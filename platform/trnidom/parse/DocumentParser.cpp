@@ -110,7 +110,7 @@ DocumentParser::Outcome DocumentParser::parseDecoded() {
 }
 
 void DocumentParser::setHandlers() {
-  XML_Parser const expat = m_expat.get();
+  auto* const expat = m_expat.get();
   XML_SetUserData(expat, this);
   XML_SetXmlDeclHandler(expat, Handlers::xmlDeclaration);
   XML_SetElementHandler(expat, Handlers::startElement, Handlers::endElement);

@@ -21,6 +21,12 @@
 
 namespace trnidom_detail {
 
+/// A document while it is built.
+struct Building {
+  TRNIDOM_Document document = newDocument();
+  TreeBuilder builder{document};
+};
+
 /// Has expat read a text and builds the document of what it finds.
 class DocumentParser {
  public:
@@ -37,10 +43,6 @@ class DocumentParser {
   TRNIDOM_Document parse();
 
  private:
-  struct Building {
-    TRNIDOM_Document document = newDocument();
-    TreeBuilder builder{document};
-  };
   struct Handlers;
   enum class Outcome { kWhole, kOtherEncoding };
 
@@ -66,7 +68,7 @@ class DocumentParser {
   bool m_isOtherEncoding = false;  // the text starts again, in the encoding that it declares
   bool m_isInCdata = false;
   std::string m_cdata;        // the characters of the section
-  unsigned long m_given = 0;  // bytes, modulo the width as expat counts them
+  unsigned long m_given = 0;  // bytes; may overflow, as expat's own count does
 
   const std::string m_visitedName;
   const TRNIDOM_Parser::Visit* const m_visit = nullptr;

@@ -9,6 +9,7 @@
 #include "parse/XmlName.h"
 #include "store/BlockCache.h"
 #include "store/Refusal.h"
+#include "store/SharedNames.h"
 #include "text/Quote.h"
 #include "text/Utf8.h"
 
@@ -22,6 +23,9 @@ namespace {
 
 /// A document and the beginning of its arena are one block of this size, and most documents need no more.
 constexpr std::size_t kSize = std::size_t{4} << 10;
+
+/// What a node is written with besides its name and value; most take less.
+constexpr std::size_t kMarkupSize = 5;
 
 /// A value longer than this is never behind its node.
 constexpr std::size_t kLongestInNode = 0x7FFF;
@@ -94,10 +98,12 @@ TRNIDOM_Document newDocument() {
 // Making nodes.
 
 const Name* Document::validName(Text name) {
-  if (const Name* recent = m_names.findRecent(name)) return recent;
+  if (const Name* known = m_names.find(name)) return known;
+  if (const Name* shared = shared_names::find(name)) return m_names.adopt(shared);
   if (!isXmlName(name))
     throw Refusal{TRNIDOM_DOMException::INVALID_CHARACTER_ERR, quotedName(stringOf(name).toUtf8()) + " is no XML name"};
-  return m_names.intern(name);
+  const Name* const shared = shared_names::keep(name);
+  return shared != nullptr ? m_names.adopt(shared) : m_names.intern(name);
 }
 
 template <typename Made>
@@ -109,6 +115,7 @@ Made* Document::makeWithValue(Node::Type type, Text value) {
   room = (room + Arena::kAlignment - 1) / Arena::kAlignment * Arena::kAlignment;
 
   auto* made = new (m_arena.allocate(sizeof(Made) + room)) Made{};
+  m_expectedSize += value.size() + kMarkupSize;
   made->type = type;
   made->room = static_cast<std::uint16_t>(room / sizeof(char16_t));
   if (block != nullptr) {
@@ -124,6 +131,7 @@ Made* Document::makeWithValue(Node::Type type, Text value) {
 
 Element* Document::makeElement(const Name* name) {
   auto* element = new (m_arena.allocate(sizeof(Element))) Element{};
+  m_expectedSize += std::size_t{2} * name->utf8Length + kMarkupSize;
   element->type = Node::kElement;
   element->previous = element;
   element->name = name;
@@ -133,6 +141,7 @@ Element* Document::makeElement(const Name* name) {
 Attribute* Document::makeAttribute(const Name* name, Text value) {
   auto* attribute = makeWithValue<Attribute>(Node::kAttribute, value);
   attribute->name = name;
+  m_expectedSize += name->utf8Length;
   return attribute;
 }
 
@@ -484,8 +493,7 @@ AttributeIndexes::Place Document::placeOf(const Element* element, Text name) con
 Attribute* Document::attribute(const Element* element, Text name) const {
   Attribute* at = element->firstAttribute;
   for (int seen = 0; at != nullptr && seen < AttributeIndexes::kFewAttributes; at = at->following(), ++seen) {
-    if (at->name->length == name.size() && std::memcmp(at->name + 1, name.data(), name.size() * sizeof(char16_t)) == 0)
-      return at;
+    if (at->name->is(name)) return at;
   }
   return at != nullptr ? placeOf(element, name).found : nullptr;
 }

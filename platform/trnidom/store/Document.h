@@ -79,6 +79,10 @@ class Document final : public TRNIDOM_HandleCount {
 
   const Names& names() const noexcept { return m_names; }
 
+  /// The number of bytes that the document is written with: enough for one of ASCII that nothing was removed from or
+  /// made longer in, and that needs no escaping.
+  std::size_t expectedSize() const noexcept { return m_expectedSize; }
+
   /// Moves with each node that comes to a tree or goes from one, attributes apart.
   std::uint64_t structureVersion() const noexcept { return m_structure; }
   /// The same, but for children appended at the end: what stands before them is where it was.
@@ -127,6 +131,7 @@ class Document final : public TRNIDOM_HandleCount {
   Names m_names{m_arena};
   Element* m_documentElement = nullptr;
   Element* m_placeholder = nullptr;
+  std::size_t m_expectedSize = 0;
   std::uint64_t m_structure = 0;
   std::uint64_t m_order = 0;
   std::uint64_t m_attributesVersion = 0;

@@ -25,42 +25,13 @@ void place(std::vector<const Name*>& table, const Name* name) noexcept {
 
 }  // namespace
 
-const Name* Names::findAmongAll(Text name) const noexcept {
-  if (!m_table.empty()) return findInTable(name, hashOf(name));
-  for (std::size_t i = 0; i < m_count; ++i)
-    if (isText(m_few[i], name)) return m_few[i];
-  return nullptr;
+std::size_t Name::utf8LengthOf(Text text) noexcept {
+  return trnidom_detail::utf8Length(text);
 }
 
-const Name* Names::findInTable(Text name, std::size_t hash) const noexcept {
-  const std::size_t mask = m_table.size() - 1;
-  for (std::size_t at = hash & mask; m_table[at] != nullptr; at = (at + 1) & mask)
-    if (m_table[at]->hash == hash && isText(m_table[at], name)) return m_table[at];
-  return nullptr;
-}
-
-const Name* Names::intern(Text name) {
-  if (const Name* recent = findRecent(name)) return recent;
-  const Name* found = findAmongAll(name);
-  if (found == nullptr) {
-    Name* made = make(name);
-    if (m_count < kFew)
-      m_few[m_count] = made;
-    else
-      addToTable(made);
-    ++m_count;
-    found = made;
-  }
-  m_recent[slot(name)] = found;
-  return found;
-}
-
-Name* Names::make(Text text) {
-  constexpr std::size_t kLongest = UINT32_MAX / 3;
-  if (text.size() > kLongest) throw std::bad_alloc();
-  const std::size_t bytes = utf8Length(text);
-  void* memory = m_arena.allocate(sizeof(Name) + text.size() * sizeof(char16_t) + bytes);
-  auto* name = new (memory) Name{0, static_cast<std::uint32_t>(text.size()), static_cast<std::uint32_t>(bytes)};
+const Name* Name::make(void* memory, Text text, std::size_t utf8Length) noexcept {
+  auto* name =
+      new (memory) Name{hashOf(text), static_cast<std::uint32_t>(text.size()), static_cast<std::uint32_t>(utf8Length)};
   auto* units = reinterpret_cast<char16_t*>(name + 1);
   std::copy(text.begin(), text.end(), units);
   auto* out = reinterpret_cast<char*>(units + text.size());
@@ -69,20 +40,47 @@ Name* Names::make(Text text) {
   return name;
 }
 
-void Names::addToTable(Name* name) {
+const Name* Names::findAmongAll(Text name) const noexcept {
+  if (!m_table.empty()) return findInTable(name, hashOf(name));
+  for (std::size_t i = 0; i < m_count; ++i)
+    if (m_few[i]->is(name)) return m_few[i];
+  return nullptr;
+}
+
+const Name* Names::findInTable(Text name, std::size_t hash) const noexcept {
+  const std::size_t mask = m_table.size() - 1;
+  for (std::size_t at = hash & mask; m_table[at] != nullptr; at = (at + 1) & mask)
+    if (m_table[at]->hash == hash && m_table[at]->is(name)) return m_table[at];
+  return nullptr;
+}
+
+const Name* Names::intern(Text name) {
+  if (const Name* recent = findRecent(name)) return recent;
+  if (const Name* known = findAmongAll(name)) return m_recent[slot(name)] = known;
+  constexpr std::size_t kLongest = UINT32_MAX / 3;
+  if (name.size() > kLongest) throw std::bad_alloc();
+  const std::size_t utf8 = Name::utf8LengthOf(name);
+  return adopt(Name::make(m_arena.allocate(Name::sizeFor(name, utf8)), name, utf8));
+}
+
+const Name* Names::adopt(const Name* name) {
+  if (m_count < kFew)
+    m_few[m_count] = name;
+  else
+    addToTable(name);
+  ++m_count;
+  return m_recent[slot(name->text())] = name;
+}
+
+void Names::addToTable(const Name* name) {
   if (m_count >= m_table.size() / 2) {
     std::vector<const Name*> larger(std::max(kFew * 4, m_table.size() * 2));
-    if (m_table.empty()) {
-      for (Name* few : m_few) {
-        few->hash = hashOf(few->text());
-        place(larger, few);
-      }
-    }
+    if (m_table.empty())
+      for (const Name* few : m_few) place(larger, few);
     for (const Name* present : m_table)
       if (present != nullptr) place(larger, present);
     m_table.swap(larger);
   }
-  name->hash = hashOf(name->text());
   place(m_table, name);
 }
 

@@ -13,9 +13,10 @@
 
 namespace trnidom_detail {
 
-/// A name of elements, attributes or processing instructions. Within a document the same name is the same object.
+/// A name of elements, attributes or processing instructions, which does not change. Within a document the same name is
+/// the same object.
 struct Name {
-  std::size_t hash;          ///< once the document has many names
+  std::size_t hash;
   std::uint32_t length;      ///< in UTF-16 code units, which follow this object
   std::uint32_t utf8Length;  ///< in bytes, which follow the code units
 
@@ -23,6 +24,17 @@ struct Name {
   std::string_view utf8() const noexcept {
     return {reinterpret_cast<const char*>(reinterpret_cast<const char16_t*>(this + 1) + length), utf8Length};
   }
+
+  bool is(Text name) const noexcept {
+    return length == name.size() && std::memcmp(this + 1, name.data(), name.size() * sizeof(char16_t)) == 0;
+  }
+
+  static std::size_t utf8LengthOf(Text text) noexcept;
+  static std::size_t sizeFor(Text text, std::size_t utf8Length) noexcept {
+    return sizeof(Name) + text.size() * sizeof(char16_t) + utf8Length;
+  }
+  /// A name in memory of that size.
+  static const Name* make(void* memory, Text text, std::size_t utf8Length) noexcept;
 };
 
 /// The names of one document. A few are looked through one by one; more are in a hash table.
@@ -38,38 +50,37 @@ class Names {
     return recent != nullptr ? recent : findAmongAll(name);
   }
 
-  /// Like `find`, but looks only among the recent names, and never finds the empty name. A name that is found is valid.
+  /// Like `find`, but looks only among the recent names.
   const Name* findRecent(Text name) const noexcept {
     const Name* recent = m_recent[slot(name)];
-    return recent != nullptr && isText(recent, name) ? recent : nullptr;
+    return recent != nullptr && recent->is(name) ? recent : nullptr;
   }
 
   /// The name, which is a valid one, made when it is new.
   /// @throws std::bad_alloc
   const Name* intern(Text name);
 
+  /// Takes in a name that outlives the document and is not among its names.
+  /// @throws std::bad_alloc
+  const Name* adopt(const Name* name);
+
  private:
   static constexpr std::size_t kFew = 16;
-  static constexpr std::size_t kRecent = 64;
+  static constexpr std::size_t kRecent = 32;
 
   /// The place of a name in the direct-mapped cache of recent names.
   static std::size_t slot(Text name) noexcept {
     return name.empty() ? 0 : (name.size() * 5 + name.front() + std::size_t{name.back()} * 3) % kRecent;
   }
-  static bool isText(const Name* candidate, Text name) noexcept {
-    return candidate->length == name.size() &&
-           std::memcmp(candidate + 1, name.data(), name.size() * sizeof(char16_t)) == 0;
-  }
 
   const Name* findAmongAll(Text name) const noexcept;
   const Name* findInTable(Text name, std::size_t hash) const noexcept;
-  Name* make(Text name);
-  void addToTable(Name* name);
+  void addToTable(const Name* name);
 
   Arena& m_arena;
   std::array<const Name*, kRecent> m_recent{};
-  std::array<Name*, kFew> m_few;     // the first names, while there are no more
-  std::vector<const Name*> m_table;  // open addressing, null where free
+  std::array<const Name*, kFew> m_few;  // the first names, while there are no more
+  std::vector<const Name*> m_table;     // open addressing, null where free
   std::size_t m_count = 0;
 };
 
