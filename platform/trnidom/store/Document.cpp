@@ -98,9 +98,9 @@ TRNIDOM_Document newDocument() {
 // Making nodes.
 
 const Name* Document::validName(Text name) {
-  if (const Name* known = m_names.find(name)) return known;
+  if (const Name* recent = m_names.findRecent(name)) return recent;
   if (const Name* shared = shared_names::find(name)) return m_names.adopt(shared);
-  if (!isXmlName(name))
+  if (m_names.find(name) == nullptr && !isXmlName(name))
     throw Refusal{TRNIDOM_DOMException::INVALID_CHARACTER_ERR, quotedName(stringOf(name).toUtf8()) + " is no XML name"};
   const Name* const shared = shared_names::keep(name);
   return shared != nullptr ? m_names.adopt(shared) : m_names.intern(name);

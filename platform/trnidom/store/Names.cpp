@@ -60,10 +60,16 @@ const Name* Names::intern(Text name) {
   constexpr std::size_t kLongest = UINT32_MAX / 3;
   if (name.size() > kLongest) throw std::bad_alloc();
   const std::size_t utf8 = Name::utf8LengthOf(name);
-  return adopt(Name::make(m_arena.allocate(Name::sizeFor(name, utf8)), name, utf8));
+  return add(Name::make(m_arena.allocate(Name::sizeFor(name, utf8)), name, utf8));
 }
 
 const Name* Names::adopt(const Name* name) {
+  const Name* const known = m_table.empty() ? findAmongAll(name->text()) : findInTable(name->text(), name->hash);
+  return known != nullptr ? m_recent[slot(name->text())] = known : add(name);
+}
+
+/// Adds a name that is not there.
+const Name* Names::add(const Name* name) {
   if (m_count < kFew)
     m_few[m_count] = name;
   else

@@ -4,7 +4,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <cstring>
 #include <string_view>
 #include <vector>
 
@@ -26,7 +25,7 @@ struct Name {
   }
 
   bool is(Text name) const noexcept {
-    return length == name.size() && std::memcmp(this + 1, name.data(), name.size() * sizeof(char16_t)) == 0;
+    return length == name.size() && areEqual(text().data(), name.data(), name.size());
   }
 
   static std::size_t utf8LengthOf(Text text) noexcept;
@@ -60,21 +59,24 @@ class Names {
   /// @throws std::bad_alloc
   const Name* intern(Text name);
 
-  /// Takes in a name that outlives the document and is not among its names.
+  /// The document's own name that equals this one; this one itself, which outlives the document, when it is new.
   /// @throws std::bad_alloc
   const Name* adopt(const Name* name);
 
  private:
   static constexpr std::size_t kFew = 16;
-  static constexpr std::size_t kRecent = 32;
+  static constexpr std::size_t kRecent = 64;
 
   /// The place of a name in the direct-mapped cache of recent names.
   static std::size_t slot(Text name) noexcept {
-    return name.empty() ? 0 : (name.size() * 5 + name.front() + std::size_t{name.back()} * 3) % kRecent;
+    if (name.empty()) return 0;
+    return (name.size() * 7 + name.front() + std::size_t{name[name.size() / 2]} * 5 + std::size_t{name.back()} * 3) %
+           kRecent;
   }
 
   const Name* findAmongAll(Text name) const noexcept;
   const Name* findInTable(Text name, std::size_t hash) const noexcept;
+  const Name* add(const Name* name);
   void addToTable(const Name* name);
 
   Arena& m_arena;

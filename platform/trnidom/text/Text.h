@@ -1,6 +1,9 @@
 #ifndef TRNIDOM_TEXT_TEXT_H
 #define TRNIDOM_TEXT_TEXT_H
 
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <string_view>
 
 #include <trn/I18NString.h>
@@ -16,6 +19,21 @@ inline Text textOf(const I18NString& string) noexcept {
 
 inline I18NString stringOf(Text text) {
   return I18NString(text);
+}
+
+/// Whether two texts of that length are the same, which are mostly short.
+inline bool areEqual(const char16_t* left, const char16_t* right, std::size_t length) noexcept {
+  constexpr std::size_t kUnits = sizeof(std::uint64_t) / sizeof(char16_t);
+  for (; length >= kUnits; length -= kUnits, left += kUnits, right += kUnits) {
+    std::uint64_t first;
+    std::uint64_t second;
+    std::memcpy(&first, left, sizeof first);
+    std::memcpy(&second, right, sizeof second);
+    if (first != second) return false;
+  }
+  for (; length != 0; --length)
+    if (*left++ != *right++) return false;
+  return true;
 }
 
 /// Whether the text has the character U+0000.
