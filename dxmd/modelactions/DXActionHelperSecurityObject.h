@@ -21,6 +21,9 @@ class DXMD_API DXActionHelperSecurityObject : public TRNReferenceCount {
   DXActionHelperSecurityObject(const I18NString& searchPath, const I18NString& readablePath,
                                const I18NString& accessType);
 
+  /// A plain number is neither.
+  DXActionHelperSecurityObject(const I18NString& searchPath, const I18NString& readablePath, int accessType) = delete;
+
   /// Reads an "access" element, all from attributes, or a "securityObject" element: the type from its attribute, both
   /// paths from the elements "cmSearchPath" and "displayPath" below it when the former exists, else from attributes.
   /// @throws TRNAssertError for an element of any other name, and for a null one.

@@ -18,6 +18,9 @@ class TRNIDOM_API TRNIDOM_Element : public TRNIDOM_Node {
   TRNIDOM_Element(const TRNIDOM_Node& node) noexcept : TRNIDOM_Node(node) {}        // NOLINT: implicit by design
   TRNIDOM_Element(TRNIDOM_Node&& node) noexcept : TRNIDOM_Node(std::move(node)) {}  // NOLINT: implicit by design
 
+  /// A document is no element: `getDocumentElement()` was forgotten.
+  TRNIDOM_Element(const TRNIDOM_Document& document) = delete;
+
   I18NString getTagName() const;
 
   /// The attribute's value; empty when it is absent.

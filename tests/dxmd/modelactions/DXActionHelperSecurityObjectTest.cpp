@@ -2,6 +2,8 @@
 
 #include <dxmd/modelactions/DXActionHelperSecurityObjectSpec.h>
 
+#include <type_traits>
+
 #include "TestSupport.h"
 
 using namespace dxmd_test;
@@ -38,6 +40,13 @@ std::string nextEntry(Spec& spec) {
 }
 
 }  // namespace
+
+// A literal 0 is a null pointer too, and so converts to a text.
+static_assert(!std::is_constructible_v<DXActionHelperSecurityObject, const char*, const char*, int>);
+static_assert(!std::is_constructible_v<DXActionHelperSecurityObject, const char*, const char*, long>);
+static_assert(std::is_constructible_v<DXActionHelperSecurityObject, const char*, const char*,
+                                      DXActionHelperSecurityObject::EAccessType>);
+static_assert(std::is_constructible_v<DXActionHelperSecurityObject, const char*, const char*, const char*>);
 
 TEST(SecurityObject, PathsComeFromElementsWhenThereIsASearchPathElement) {
   const char* const attributes = " cmSearchPath='a' displayPath='d' type='role'";
@@ -147,7 +156,7 @@ TEST(SecurityObjectSpec, PrincipalsMustStandSideBySideInTheirList) {
 TEST(SecurityObjectSpec, AddingNeedsAListInADocument) {
   Spec spec;
   expectAssert("TRN_ASSERT(!m_requestRoot.isNull());", kFile, [&] { spec.addEntry({"", "", ""}, {}); });
-  TRNIDOM_Element document = newDocument();
+  TRNIDOM_Element document = TRNIDOM_Node(newDocument());
   spec.Take(document);
   expectAssert("TRN_ASSERT(!domDoc.isNull());", kFile, [&] { spec.addEntry({"", "", ""}, {}); });
 }

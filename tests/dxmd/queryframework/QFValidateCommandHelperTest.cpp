@@ -1,6 +1,7 @@
 #include <dxmd/queryframework/QFValidateCommandHelper.h>
 
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "TestSupport.h"
@@ -31,6 +32,21 @@ int severityAfter(const std::vector<const char*>& severities) {
 }
 
 }  // namespace
+
+// A reply whose `getDocumentElement()` was forgotten would hold no message.
+static_assert(!std::is_convertible_v<TRNIDOM_Document, TRNIDOM_Element>);
+static_assert(!std::is_assignable_v<TRNIDOM_Element&, TRNIDOM_Document&>);
+static_assert(!std::is_invocable_v<decltype(&QFValidateCommandHelper::CheckReponse), QFValidateCommandHelper&,
+                                   TRNIDOM_Document&, TRNSeverity&, I18NString&>);
+static_assert(std::is_convertible_v<TRNIDOM_Node, TRNIDOM_Element>);
+
+TEST(QFValidateCommandHelper, ANodeThatStandsOnADocumentConvertsAndHoldsNoMessage) {
+  const TRNIDOM_Node reply = parsed("<response><message severity='fatal'>m</message></response>").getOwnerDocument();
+  TRNSeverity severity = kSeverityFatal;
+  I18NString messages;
+  QFValidateCommandHelper().CheckReponse(reply, severity, messages);
+  EXPECT_EQ(kSeverityNone, severity);
+}
 
 TEST(QFValidateCommandHelper, CopiesTheChildrenOfTheFirstChildOnly) {
   TRNIDOM_Element element = parsed("<e><first a=\"1\"><x>1</x> t<!--c--><y/></first><second><z/></second></e>");
