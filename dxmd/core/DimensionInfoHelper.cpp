@@ -5,32 +5,35 @@
 #include <dxmd/core/Dom.h>
 #include <dxmd/resources/Vocabulary.h>
 
+using namespace dxmd;
+
 namespace {
 
-void writeReferences(TRNIDOM_Element parent, const std::vector<I18NString>& references) {
-  for (const I18NString& reference : references) dxmd::appendTextElement(parent, STR_refobj, reference);
+void writeReferences(const TRNIDOM_Element& parent, const std::vector<I18NString>& references) {
+  for (const I18NString& reference : references) appendElementWithTextNode(parent, STR_refobj, reference);
 }
 
-void writeLevels(TRNIDOM_Element& dimInfo, const std::vector<DimensionInfoHelper::LevelInfo>& levels) {
-  TRNIDOM_Element list = dxmd::appendElement(dimInfo, STR_levels);
+void writeLevels(const TRNIDOM_Element& dimInfo, const std::vector<DimensionInfoHelper::LevelInfo>& levels) {
+  TRNIDOM_Element list = appendElement(dimInfo, STR_levels);
   for (const DimensionInfoHelper::LevelInfo& info : levels) {
-    TRNIDOM_Element level = dxmd::appendElement(list, STR_level);
-    dxmd::appendTextElement(level, STR_name, info.name);
-    dxmd::appendTextElement(level, STR_externalName, info.name);
-    TRNIDOM_Element key = dxmd::appendElement(level, STR_key, STR_isUniqueKey, dxmd::toText(info.isUniqueKey != 0));
-    dxmd::appendTextElement(key, STR_name, info.keyName);
-    writeReferences(dxmd::appendElement(key, STR_queryItems_collection), info.keyItems);
-    writeReferences(dxmd::appendElement(level, STR_attributes), info.attributes);
+    TRNIDOM_Element level = appendElement(list, STR_level);
+    appendElementWithTextNode(level, STR_name, info.name);
+    appendElementWithTextNode(level, STR_externalName, info.name);
+    TRNIDOM_Element key = appendElement(level, STR_key, STR_isUniqueKey, toText(info.isUniqueKey != 0));
+    appendElementWithTextNode(key, STR_name, info.keyName);
+    writeReferences(appendElement(key, STR_queryItems_collection), info.keyItems);
+    writeReferences(appendElement(level, STR_attributes), info.attributes);
   }
 }
 
-void writeHierarchies(TRNIDOM_Element& dimInfo, const std::vector<DimensionInfoHelper::HierarchyInfo>& hierarchies) {
-  TRNIDOM_Element list = dxmd::appendElement(dimInfo, STR_hierarchies);
+void writeHierarchies(const TRNIDOM_Element& dimInfo,
+                      const std::vector<DimensionInfoHelper::HierarchyInfo>& hierarchies) {
+  TRNIDOM_Element list = appendElement(dimInfo, STR_hierarchies);
   for (const DimensionInfoHelper::HierarchyInfo& info : hierarchies) {
-    TRNIDOM_Element hierarchy = dxmd::appendElement(list, STR_hierarchy);
-    dxmd::appendTextElement(hierarchy, STR_name, info.name);
-    dxmd::appendTextElement(hierarchy, STR_externalName, info.name);
-    writeReferences(dxmd::appendElement(hierarchy, STR_functionalDependency), info.levels);
+    TRNIDOM_Element hierarchy = appendElement(list, STR_hierarchy);
+    appendElementWithTextNode(hierarchy, STR_name, info.name);
+    appendElementWithTextNode(hierarchy, STR_externalName, info.name);
+    writeReferences(appendElement(hierarchy, STR_functionalDependency), info.levels);
   }
 }
 
@@ -60,7 +63,7 @@ void DimensionInfoHelper::AddTextElementNode(TRNIDOM_Document& doc, TRNIDOM_Elem
                                              const I18NString& text) const {
   TRNIDOM_Element element = doc.createElement(name);
   parent.appendChild(element);
-  dxmd::appendText(element, text);
+  element.appendChild(doc.createTextNode(text));
 }
 
 TRNIDOM_Element DimensionInfoHelper::getLevelsElement(TRNIDOM_Element& element) const {

@@ -6,51 +6,59 @@
 
 namespace dxmd {
 
-TRNIDOM_Element appendElement(TRNIDOM_Element& parent, const I18NString& name) {
-  return TRNIDOM_Helper::appendElement(parent, name);
+namespace {
+
+// Appending takes a handle that is not const. A copy of one stands for the same node.
+TRNIDOM_Node append(TRNIDOM_Node parent, const TRNIDOM_Node& child) {
+  return parent.appendChild(child);
 }
 
-TRNIDOM_Element appendElement(TRNIDOM_Element& parent, const I18NString& name, const I18NString& attrName,
+}  // namespace
+
+TRNIDOM_Element appendElement(const TRNIDOM_Node& parent, const I18NString& name) {
+  return append(parent, parent.getOwnerDocument().createElement(name));
+}
+
+TRNIDOM_Element appendElement(const TRNIDOM_Node& parent, const I18NString& name, const I18NString& attrName,
                               const I18NString& attrValue) {
-  return TRNIDOM_Helper::appendElement(parent, name, attrName, attrValue);
-}
-
-TRNIDOM_Element appendValueElement(TRNIDOM_Element& parent, const I18NString& name, const I18NString& value) {
-  return appendElement(parent, name, STR_value, value);
-}
-
-TRNIDOM_Element appendTextElement(TRNIDOM_Element& parent, const I18NString& name, const I18NString& text) {
-  TRNIDOM_Element element = appendElement(parent, name);
-  appendText(element, text);
+  TRNIDOM_Element element = parent.getOwnerDocument().createElement(name);
+  element.setAttribute(attrName, attrValue);
+  append(parent, element);
   return element;
 }
 
-void appendText(TRNIDOM_Element& parent, const I18NString& text) {
-  TRNIDOM_Helper::appendText(parent, text);
+TRNIDOM_Element appendValueElement(const TRNIDOM_Node& parent, const I18NString& name, const I18NString& value) {
+  return appendElement(parent, name, STR_value, value);
 }
 
-TRNIDOM_Node appendImported(TRNIDOM_Element& parent, const TRNIDOM_Node& node) {
-  return parent.appendChild(parent.getOwnerDocument().importNode(node, true));
+TRNIDOM_Element appendElementWithText(const TRNIDOM_Node& parent, const I18NString& name, const I18NString& text) {
+  return text.empty() ? appendElement(parent, name) : appendElementWithTextNode(parent, name, text);
 }
 
-TRNIDOM_Element setChildValue(TRNIDOM_Element& parent, const I18NString& name, const I18NString& value) {
+TRNIDOM_Element appendElementWithTextNode(const TRNIDOM_Node& parent, const I18NString& name, const I18NString& text) {
+  TRNIDOM_Document doc = parent.getOwnerDocument();
+  TRNIDOM_Element element = doc.createElement(name);
+  element.appendChild(doc.createTextNode(text));
+  append(parent, element);
+  return element;
+}
+
+void appendText(const TRNIDOM_Node& parent, const I18NString& text) {
+  append(parent, parent.getOwnerDocument().createTextNode(text));
+}
+
+TRNIDOM_Node appendImported(const TRNIDOM_Node& parent, const TRNIDOM_Node& node) {
+  return append(parent, parent.getOwnerDocument().importNode(node, true));
+}
+
+TRNIDOM_Element setChildValue(const TRNIDOM_Node& parent, const I18NString& name, const I18NString& value) {
   TRNIDOM_Element element = TRNIDOM_Helper::findOrCreateElement(parent, name);
   element.setAttribute(STR_value, value);
   return element;
 }
 
-TRNIDOM_Node firstText(const TRNIDOM_Node& parent) {
-  TRNIDOM_Node child = parent.getFirstChild();
-  return isText(child) ? child : TRNIDOM_Node();
-}
-
 const I18NString& toText(bool value) {
   return value ? STR_true : STR_false;
-}
-
-void readChildText(const TRNIDOM_Node& parent, const I18NString& name, I18NString& text) {
-  const TRNIDOM_Element child = TRNIDOM_Helper::findChildElement(parent, name);
-  if (!child.isNull()) TRNIDOM_Helper::getElementText(child, text);
 }
 
 }  // namespace dxmd

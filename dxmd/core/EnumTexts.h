@@ -11,21 +11,6 @@
 
 namespace dxmd {
 
-/// A fixed text: an entry of the vocabulary, or a static constant of a helper's source. Constant-initialised, so that
-/// tables of them run no code at load.
-class FixedText {
- public:
-  constexpr FixedText(VocabularyEntry entry) noexcept : m_entry(entry) {}              // NOLINT: implicit by design
-  constexpr FixedText(const I18NString& constant) noexcept : m_constant(&constant) {}  // NOLINT: implicit by design
-  FixedText(I18NString&&) = delete;
-
-  const I18NString& text() const { return m_constant != nullptr ? *m_constant : m_entry.text(); }
-
- private:
-  VocabularyEntry m_entry{0};
-  const I18NString* m_constant = nullptr;
-};
-
 /// The texts of an enumeration, serving both directions. Texts are compared exactly.
 template <typename Enum, std::size_t N>
 class EnumTexts {
@@ -49,13 +34,6 @@ class EnumTexts {
     for (const Row& row : m_rows)
       if (row.text.text() == text) return row.value;
     return otherwise;
-  }
-
-  /// Whether the value has a text.
-  bool has(Enum value) const {
-    for (const Row& row : m_rows)
-      if (row.value == value) return true;
-    return false;
   }
 
   auto begin() const { return m_rows.begin(); }

@@ -44,13 +44,13 @@ class DXMD_API DXMaterializeRequestHelper : public ActionHandlerBase {
 
   /// Where to load to. Each text belongs to whoever filled the structure; null when absent.
   struct TargetDataSource {
-    const I18NString* type = nullptr;
-    const I18NString* database = nullptr;
-    const I18NString* connectionString = nullptr;
-    const I18NString* reserved = nullptr;  ///< neither stored nor filled
-    const I18NString* userName = nullptr;
-    const I18NString* password = nullptr;
-    const I18NString* ssoTicket = nullptr;
+    I18NString* type = nullptr;
+    I18NString* database = nullptr;
+    I18NString* connectionString = nullptr;
+    I18NString* reserved = nullptr;  ///< neither stored nor filled
+    I18NString* userName = nullptr;
+    I18NString* password = nullptr;
+    I18NString* ssoTicket = nullptr;
   };
 
   /// The name under which a request carries the task and a response answers it: "genLoadDataFromFile" for both

@@ -3,8 +3,10 @@
 #include <trn/TRNAssert.h>
 #include <trnidom/TRNIDOM_Helper.h>
 
-#include <dxmd/core/Dom.h>
+#include <dxmd/core/Nodes.h>
 #include <dxmd/resources/Vocabulary.h>
+
+using namespace dxmd;
 
 DXMaterializeResponseHelper::DXMaterializeResponseHelper() = default;
 
@@ -15,7 +17,7 @@ bool DXMaterializeResponseHelper::GetResponse(DXMaterializeRequestHelper::ETasks
       TRNIDOM_Helper::findFirstElement(m_responseRoot, DXMaterializeRequestHelper::GetTaskName(task));
   if (nodeTemp.isNull()) return false;
   TRN_ASSERT(nodeTemp.getNodeType() == TRNIDOM_Node::ELEMENT_NODE);
-  const TRNIDOM_Node text = dxmd::firstText(TRNIDOM_Helper::findFirstElement(nodeTemp, STR_response));
+  const TRNIDOM_Node text = firstText(TRNIDOM_Helper::findFirstElement(nodeTemp, STR_response));
   if (text.isNull()) return false;
   response = text.getNodeValue();
   return true;

@@ -2,10 +2,12 @@
 
 #include <trn/TRNAssert.h>
 #include <trnidom/TRNIDOM_Helper.h>
-#include <trnidom/TRNIDOM_NodeList.h>
 
 #include <dxmd/core/Dom.h>
+#include <dxmd/core/Nodes.h>
 #include <dxmd/modelactions/DXActionHelperDBConnections.h>
+
+using namespace dxmd;
 
 const I18NString DXActionHelperDBConnection::k_dbConnection("dbConnection");
 const I18NString DXActionHelperDBConnection::k_connectionString("connectionString");
@@ -29,31 +31,29 @@ void DXActionHelperDBConnection::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& 
   TRN_ASSERT(!domRequest.isNull());
   doc.appendChild(domRequest);
 
-  const TRNIDOM_Element databaseElem = TRNIDOM_Helper::findOrCreateElementWithText(domRequest, k_database, m_database);
+  const TRNIDOM_Element databaseElem = appendElementWithText(domRequest, k_database, m_database);
   TRN_ASSERT(!databaseElem.isNull());
   if (!m_catalog.empty()) {
-    const TRNIDOM_Element catalogElem = TRNIDOM_Helper::findOrCreateElementWithText(domRequest, k_catalog, m_catalog);
+    const TRNIDOM_Element catalogElem = appendElementWithText(domRequest, k_catalog, m_catalog);
     TRN_ASSERT(!catalogElem.isNull());
   }
   if (!m_schema.empty()) {
-    const TRNIDOM_Element schemaElem = TRNIDOM_Helper::findOrCreateElementWithText(domRequest, k_schema, m_schema);
+    const TRNIDOM_Element schemaElem = appendElementWithText(domRequest, k_schema, m_schema);
     TRN_ASSERT(!schemaElem.isNull());
   }
   if (!m_dbType.empty()) {
-    const TRNIDOM_Element dbTypeElem = TRNIDOM_Helper::findOrCreateElementWithText(domRequest, k_dbType, m_dbType);
+    const TRNIDOM_Element dbTypeElem = appendElementWithText(domRequest, k_dbType, m_dbType);
     TRN_ASSERT(!dbTypeElem.isNull());
   }
   const TRNIDOM_Element connectionStringElem =
-      TRNIDOM_Helper::findOrCreateElementWithText(domRequest, k_connectionString, m_connectionString);
+      appendElementWithText(domRequest, k_connectionString, m_connectionString);
   TRN_ASSERT(!connectionStringElem.isNull());
   if (!m_userName.empty()) {
-    const TRNIDOM_Element userNameElem =
-        TRNIDOM_Helper::findOrCreateElementWithText(domRequest, k_userName, m_userName);
+    const TRNIDOM_Element userNameElem = appendElementWithText(domRequest, k_userName, m_userName);
     TRN_ASSERT(!userNameElem.isNull());
   }
   if (!m_password.empty()) {
-    const TRNIDOM_Element passwordElem =
-        TRNIDOM_Helper::findOrCreateElementWithText(domRequest, k_password, m_password);
+    const TRNIDOM_Element passwordElem = appendElementWithText(domRequest, k_password, m_password);
     TRN_ASSERT(!passwordElem.isNull());
   }
 
@@ -72,15 +72,15 @@ void DXActionHelperDBConnection::doTake(TRNIDOM_Element& elem) {
   TRN_ASSERT(!databaseElem.isNull());
   TRNIDOM_Helper::getElementText(databaseElem, m_database);
 
-  dxmd::readChildText(m_requestRoot, k_catalog, m_catalog);
-  dxmd::readChildText(m_requestRoot, k_schema, m_schema);
+  readChildText(m_requestRoot, k_catalog, m_catalog);
+  readChildText(m_requestRoot, k_schema, m_schema);
 
   const TRNIDOM_Element dbTypeElem = TRNIDOM_Helper::findChildElement(m_requestRoot, k_dbType);
   TRN_ASSERT(!dbTypeElem.isNull());
   TRNIDOM_Helper::getElementText(dbTypeElem, m_dbType);
 
-  dxmd::readChildText(m_requestRoot, k_userName, m_userName);
-  dxmd::readChildText(m_requestRoot, k_password, m_password);
+  readChildText(m_requestRoot, k_userName, m_userName);
+  readChildText(m_requestRoot, k_password, m_password);
 }
 
 DXActionHelperDBConnections::DXActionHelperDBConnections() = default;
@@ -97,7 +97,7 @@ void DXActionHelperDBConnections::doMake(TRNIDOM_Document& doc, TRNIDOM_Element&
   TRN_ASSERT(!domRequest.isNull());
   doc.appendChild(domRequest);
 
-  for (const TRNIDOM_Element& dbConnection : m_dbConnections) dxmd::appendImported(domRequest, dbConnection);
+  for (const TRNIDOM_Element& dbConnection : m_dbConnections) appendImported(domRequest, dbConnection);
 
   m_requestRoot = domRequest;
 }
@@ -106,5 +106,5 @@ void DXActionHelperDBConnections::doTake(TRNIDOM_Element& elem) {
   m_requestRoot = elem;
   TRN_ASSERT(!m_requestRoot.isNull());
 
-  for (TRNIDOM_Element dbConnection : m_requestRoot.getElementsByTagName(k_dbConnection)) addDom(dbConnection);
+  for (TRNIDOM_Element& dbConnection : DescendantElements(m_requestRoot, k_dbConnection)) addDom(dbConnection);
 }

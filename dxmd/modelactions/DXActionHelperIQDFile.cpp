@@ -2,9 +2,11 @@
 
 #include <trn/TRNAssert.h>
 #include <trnidom/TRNIDOM_Helper.h>
-#include <trnidom/TRNIDOM_NodeList.h>
 
 #include <dxmd/core/Dom.h>
+#include <dxmd/core/Nodes.h>
+
+using namespace dxmd;
 
 const I18NString DXActionHelperIQDFile::kElemNameRoot("file");
 const I18NString DXActionHelperIQDFile::k_file("file");
@@ -22,11 +24,11 @@ void DXActionHelperIQDFile::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& domRe
   TRN_ASSERT(!domRequest.isNull());
   doc.appendChild(domRequest);
 
-  const TRNIDOM_Element filePathElem = TRNIDOM_Helper::findOrCreateElementWithText(domRequest, k_filePath, m_filePath);
+  const TRNIDOM_Element filePathElem = appendElementWithText(domRequest, k_filePath, m_filePath);
   TRN_ASSERT(!filePathElem.isNull());
 
   if (m_contents.empty()) TRN_ASSERT(false);
-  const TRNIDOM_Element contents = TRNIDOM_Helper::findOrCreateElement(domRequest, k_contents);
+  const TRNIDOM_Element contents = appendElement(domRequest, k_contents);
   TRN_ASSERT(!contents.isNull());
   for (const I18NString& text : m_contents) {
     const TRNIDOM_Element line = TRNIDOM_Helper::findOrCreateElementWithText(contents, k_line, text);
@@ -34,24 +36,22 @@ void DXActionHelperIQDFile::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& domRe
   }
 
   if (!m_dbConnectionName.empty()) {
-    const TRNIDOM_Element dbConnectionName =
-        TRNIDOM_Helper::findOrCreateElementWithText(domRequest, k_dbConnectionName, m_dbConnectionName);
+    const TRNIDOM_Element dbConnectionName = appendElementWithText(domRequest, k_dbConnectionName, m_dbConnectionName);
     TRN_ASSERT(!dbConnectionName.isNull());
   }
   if (!m_cmDataSource.empty()) {
-    const TRNIDOM_Element cmDataSource =
-        TRNIDOM_Helper::findOrCreateElementWithText(domRequest, k_cmDataSource, m_cmDataSource);
+    const TRNIDOM_Element cmDataSource = appendElementWithText(domRequest, k_cmDataSource, m_cmDataSource);
     TRN_ASSERT(!cmDataSource.isNull());
   }
 }
 
 void DXActionHelperIQDFile::doTake(TRNIDOM_Element& elem) {
-  dxmd::readChildText(elem, k_filePath, m_filePath);
+  readChildText(elem, k_filePath, m_filePath);
 
   const TRNIDOM_Element contents = TRNIDOM_Helper::findChildElement(elem, k_contents);
-  for (const TRNIDOM_Node& line : contents.getElementsByTagName(k_line))
+  for (const TRNIDOM_Element& line : DescendantElements(contents, k_line))
     addContentLine(TRNIDOM_Helper::getElementText(line));
 
-  dxmd::readChildText(elem, k_dbConnectionName, m_dbConnectionName);
-  dxmd::readChildText(elem, k_cmDataSource, m_cmDataSource);
+  readChildText(elem, k_dbConnectionName, m_dbConnectionName);
+  readChildText(elem, k_cmDataSource, m_cmDataSource);
 }

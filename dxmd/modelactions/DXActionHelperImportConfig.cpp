@@ -2,8 +2,10 @@
 
 #include <trn/TRNAssert.h>
 
-#include <dxmd/core/Dom.h>
+#include <dxmd/core/Nodes.h>
 #include <dxmd/resources/Vocabulary.h>
+
+using namespace dxmd;
 
 namespace {
 const I18NString STR_interfaceType("interfaceType");
@@ -39,7 +41,7 @@ bool DXActionHelperImportConfig::getInterfaceType(I18NString& interfaceType) con
 
 bool DXActionHelperImportConfig::getConnectionProvider(I18NString& provider) const {
   const TRNIDOM_Element connection = m_sourceConfig.getElementsByTagName(STR_connection).item(0);
-  if (!dxmd::isElement(connection)) return false;
+  if (!isElement(connection)) return false;
   provider = connection.getAttribute(STR_provider);
   return !provider.empty();
 }

@@ -1,6 +1,7 @@
 #ifndef DXMD_MODELACTIONS_DXACTIONHELPERIMPORTCONFIG_H
 #define DXMD_MODELACTIONS_DXACTIONHELPERIMPORTCONFIG_H
 
+#include <cstddef>
 #include <vector>
 
 #include <trn/I18NString.h>
@@ -67,8 +68,11 @@ class DXMD_API DXActionHelperImportConfig : public ActionHandlerBase {
 /// vector's record type makes the record with its static `Make`.
 template <typename Vector>
 void getItems(const TRNIDOM_Element& root, const I18NString& listName, Vector& items) {
-  for (TRNIDOM_Element item : DXActionHelperImportConfig::getItemNodes(root, listName))
+  const TRNIDOM_NodeList nodes = DXActionHelperImportConfig::getItemNodes(root, listName);
+  for (std::size_t i = 0; i < nodes.getLength(); ++i) {
+    TRNIDOM_Element item = nodes.item(i);
     if (item.getNodeType() == TRNIDOM_Node::ELEMENT_NODE) items.push_back(Vector::value_type::Make(item));
+  }
 }
 
 #endif

@@ -8,6 +8,8 @@
 #include <dxmd/core/EnumTexts.h>
 #include <dxmd/resources/Vocabulary.h>
 
+using namespace dxmd;
+
 namespace {
 
 using Access = DXActionHelperObjectAccess;
@@ -17,9 +19,9 @@ const I18NString STR_unspecified("unspecified");
 const I18NString STR_allow("allow");
 const I18NString STR_deny("deny");
 
-constexpr dxmd::EnumTexts<Access::EObjectAccessRule, 3> kRules({{Access::kUnspecified, STR_unspecified},
-                                                                {Access::kAllow, STR_allow},
-                                                                {Access::kDeny, STR_deny}});
+constexpr EnumTexts<Access::EObjectAccessRule, 3> kRules({{Access::kUnspecified, STR_unspecified},
+                                                          {Access::kAllow, STR_allow},
+                                                          {Access::kDeny, STR_deny}});
 
 }  // namespace
 
@@ -50,12 +52,13 @@ void DXActionHelperObjectAccess::addEntry(const DXActionHelperSecurityObject& ob
   if (object.cmSearchPath.empty()) return;
 
   if (!m_requestRoot.isNull()) {
-    // Only what was created just now can have become the last child: this tells new from found without searching twice.
+    // What follows the child that was last is new: this tells created from found without a search of its own.
+    const bool wasEmpty = !m_requestRoot.hasChildNodes();
     const TRNIDOM_Node lastBefore = m_requestRoot.getLastChild();
     TRNIDOM_Element securityObjectElem = TRNIDOM_Helper::findOrCreateElementWithAttribute(
         m_requestRoot, STR_securityObject, STR_cmSearchPath, object.cmSearchPath);
     EObjectAccessRule effectiveRule = rule;
-    if (m_requestRoot.getLastChild() != lastBefore) {
+    if (wasEmpty || !lastBefore.getNextSibling().isNull()) {
       securityObjectElem.setAttribute(STR_displayPath, object.displayPath);
       securityObjectElem.setAttribute(STR_type, object.type);
     } else {

@@ -2,6 +2,7 @@
 #define DXMD_MODELACTIONS_DXACTIONHELPERRETARGETOBJECTREFERENCES_H
 
 #include <cstdint>
+#include <initializer_list>
 #include <vector>
 
 #include <trn/I18NString.h>
@@ -45,6 +46,10 @@ class DXMD_API DXActionHelperRetargetObjectReferences : public ActionHandlerBase
   ///         is written then.
   void addEntry(const I18NString& currentRefValue, const I18NString& newRefValue,
                 const std::vector<ItemToUpdate>& itemsToUpdate);
+
+  /// The same for items in braces, of which there may be none.
+  void addEntry(const I18NString& currentRefValue, const I18NString& newRefValue,
+                std::initializer_list<ItemToUpdate> itemsToUpdate);
 
   /// The same for a single item.
   void addEntry(const I18NString& currentRefValue, const I18NString& newRefValue, const ItemToUpdate& itemToUpdate);

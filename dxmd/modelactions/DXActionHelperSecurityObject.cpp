@@ -2,11 +2,13 @@
 
 #include <trn/TRNAssert.h>
 #include <trnidom/TRNIDOM_Helper.h>
-#include <trnidom/TRNIDOM_NodeList.h>
 
 #include <dxmd/core/Dom.h>
+#include <dxmd/core/Nodes.h>
 #include <dxmd/modelactions/DXActionHelperSecurityObjectSpec.h>
 #include <dxmd/resources/Vocabulary.h>
+
+using namespace dxmd;
 
 const I18NString DXActionHelperSecurityObjectSpec::kElemNameRoot("securityObjects");
 const I18NString DXActionHelperSecurityObjectSpec::kElemNameView("view");
@@ -60,7 +62,7 @@ DXActionHelperSecurityObjectSpec::ViewInfo::ViewInfo(TRNIDOM_Element& viewElem) 
   TRNIDOM_Helper::getElementText(viewRefElem, m_viewRef);
   TRN_ASSERT(!m_viewRef.empty());
 
-  for (const TRNIDOM_Node& packageRefElem : viewElem.getElementsByTagName(kElemNameView))
+  for (const TRNIDOM_Element& packageRefElem : DescendantElements(viewElem, kElemNameView))
     addPackageRef(TRNIDOM_Helper::getElementText(packageRefElem));
 }
 
@@ -93,15 +95,15 @@ void DXActionHelperSecurityObjectSpec::addEntry(const DXActionHelperSecurityObje
   TRNIDOM_Element securityObjectElem = domDoc.createElement(STR_securityObject);
   TRN_ASSERT(!securityObjectElem.isNull());
   m_requestRoot.appendChild(securityObjectElem);
-  if (!object.displayPath.empty()) dxmd::appendTextElement(securityObjectElem, STR_displayPath, object.displayPath);
-  dxmd::appendTextElement(securityObjectElem, STR_cmSearchPath, object.cmSearchPath);
+  if (!object.displayPath.empty()) appendElementWithText(securityObjectElem, STR_displayPath, object.displayPath);
+  appendElementWithText(securityObjectElem, STR_cmSearchPath, object.cmSearchPath);
   securityObjectElem.setAttribute(STR_type, object.type);
 
   for (const ViewInfo& view : views) {
     TRNIDOM_Element viewElem = domDoc.createElement(kElemNameView);
     TRN_ASSERT(!viewElem.isNull());
     securityObjectElem.appendChild(viewElem);
-    const TRNIDOM_Element viewRefElem = dxmd::appendTextElement(viewElem, kElemNameViewRef, view.getViewRef());
+    const TRNIDOM_Element viewRefElem = appendElementWithText(viewElem, kElemNameViewRef, view.getViewRef());
     TRN_ASSERT(!viewRefElem.isNull());
 
     std::vector<I18NString> packageRefs;
@@ -122,7 +124,7 @@ TRNSmartPointer<DXActionHelperSecurityObject> DXActionHelperSecurityObjectSpec::
   TRNSmartPointer<DXActionHelperSecurityObject> object;
   if (!m_currentSecurityObjectElem.isNull()) {
     object = new DXActionHelperSecurityObject(m_currentSecurityObjectElem);
-    for (TRNIDOM_Element viewElem : m_currentSecurityObjectElem.getElementsByTagName(kElemNameView))
+    for (TRNIDOM_Element& viewElem : DescendantElements(m_currentSecurityObjectElem, kElemNameView))
       views.emplace_back(viewElem);
     m_currentSecurityObjectElem = m_currentSecurityObjectElem.getNextSibling();
   }

@@ -4,17 +4,18 @@
 #include <utility>
 
 #include <trn/TRNAssert.h>
-#include <trnidom/TRNIDOM_NodeList.h>
 
 #include <dxmd/core/Dom.h>
+#include <dxmd/core/Nodes.h>
 #include <dxmd/resources/Vocabulary.h>
+
+using namespace dxmd;
 
 namespace {
 
 I18NString lastFilePath(const TRNIDOM_Element& entryElem) {
   I18NString path;
-  for (TRNIDOM_Element child = entryElem.getFirstChild(); !child.isNull(); child = child.getNextSibling())
-    if (dxmd::isElement(child) && child.getNodeName() == STR_file) path = child.getAttribute(STR_path);
+  for (const TRNIDOM_Element& file : ChildElements(entryElem, STR_file)) path = file.getAttribute(STR_path);
   return path;
 }
 
@@ -31,7 +32,7 @@ void DXExternalizeReportHelper::AddEntry(Entry* pEntry) {
 void DXExternalizeReportHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const {
   elem = doc.createElement(STR_externalizeReport);
   for (const Entry* entry : m_entries) {
-    TRNIDOM_Element entryElem = dxmd::appendElement(elem, STR_entry, STR_objectID, entry->objectID);
+    TRNIDOM_Element entryElem = appendElement(elem, STR_entry, STR_objectID, entry->objectID);
     entryElem.setAttribute(STR_method, entry->method);
     entryElem.setAttribute(STR_error, entry->error);
     entryElem.setAttribute(STR_path, entry->path);
@@ -39,7 +40,7 @@ void DXExternalizeReportHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& e
 }
 
 void DXExternalizeReportHelper::doTake(TRNIDOM_Element& elem) {
-  for (const TRNIDOM_Element entryElem : elem.getElementsByTagName(STR_entry)) {
+  for (const TRNIDOM_Element& entryElem : DescendantElements(elem, STR_entry)) {
     auto entry = std::make_unique<Entry>();
     entry->objectID = entryElem.getAttribute(STR_objectID);
     entry->method = entryElem.getAttribute(STR_method);

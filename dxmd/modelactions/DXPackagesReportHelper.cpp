@@ -1,9 +1,10 @@
 #include <dxmd/modelactions/DXPackagesReportHelper.h>
 
-#include <trnidom/TRNIDOM_NodeList.h>
-
 #include <dxmd/core/Dom.h>
+#include <dxmd/core/Nodes.h>
 #include <dxmd/resources/Vocabulary.h>
+
+using namespace dxmd;
 
 const I18NString DXPackagesReportHelper::kPacakgesRoot("packages");
 const I18NString DXPackagesReportHelper::kPacakgeEntry("package");
@@ -20,12 +21,12 @@ DXPackagesReportHelper::Package* DXPackagesReportHelper::AddPackage(const I18NSt
 void DXPackagesReportHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const {
   elem = doc.createElement(kPacakgesRoot);
   for (const Package* package : m_packages) {
-    TRNIDOM_Element packageElem = dxmd::appendElement(elem, kPacakgeEntry, kDefaultName, package->defaultName);
+    TRNIDOM_Element packageElem = appendElement(elem, kPacakgeEntry, kDefaultName, package->defaultName);
     packageElem.setAttribute(STR_cmSearchPath, package->searchPath);
   }
 }
 
 void DXPackagesReportHelper::doTake(TRNIDOM_Element& elem) {
-  for (const TRNIDOM_Element packageElem : elem.getElementsByTagName(kPacakgeEntry))
+  for (const TRNIDOM_Element& packageElem : DescendantElements(elem, kPacakgeEntry))
     AddPackage(packageElem.getAttribute(kDefaultName), packageElem.getAttribute(STR_cmSearchPath));
 }

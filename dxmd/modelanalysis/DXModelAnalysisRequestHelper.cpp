@@ -1,11 +1,13 @@
 #include <dxmd/modelanalysis/DXModelAnalysisRequestHelper.h>
 
 #include <trn/TRNAssert.h>
-#include <trnidom/TRNIDOM_NodeList.h>
 
+#include <dxmd/core/Descendants.h>
 #include <dxmd/core/Dom.h>
 #include <dxmd/core/EnumTexts.h>
 #include <dxmd/resources/Vocabulary.h>
+
+using namespace dxmd;
 
 namespace {
 
@@ -16,11 +18,11 @@ const I18NString STR_embeddedCalculation("embeddedCalculation");
 const I18NString STR_cachingConflict("cachingConflict");
 const I18NString STR_id("id");
 
-constexpr dxmd::EnumTexts<Task::ETask, 1> kTasks{{
+constexpr EnumTexts<Task::ETask, 1> kTasks{{
     {Task::kTaskDoSpecifiedChecks, STR_doSpecifiedChecks},
 }};
 
-constexpr dxmd::EnumTexts<Task::ECheck, 9> kChecks{{
+constexpr EnumTexts<Task::ECheck, 9> kChecks{{
     {Task::kCheckUseOfCardinalityInFacts, STR_useOfCardinalityInFacts},
     {Task::kCheckAmbiguousCardinality, STR_ambiguousCardinality},
     {Task::kCheckAmbiguousRelationships, STR_ambiguousRelationships},
@@ -31,6 +33,27 @@ constexpr dxmd::EnumTexts<Task::ECheck, 9> kChecks{{
     {Task::kCheckEmbeddedCalculation, STR_embeddedCalculation},
     {Task::kCheckCachingConflict, STR_cachingConflict},
 }};
+
+// What a request is read from.
+enum Name { kTask, kCheck, kObject };
+
+Descendants contentOf(const TRNIDOM_Element& elem) {
+  return Descendants(elem, {STR_task, STR_check, STR_object});
+}
+
+void read(Task& task, const Descendants& all, const Descendants::Found& elem) {
+  constexpr auto kCheckUnknown = Task::kCheckUnknown;  // for the assertion's text
+  for (const auto& check : all.below(elem, kCheck)) {
+    const Task::ECheck eCheck = Task::ToCheck(check.element.getAttribute(STR_name));
+    TRN_ASSERT(eCheck != kCheckUnknown);
+    task.AddCheck(eCheck);
+  }
+  for (const auto& object : all.below(elem, kObject)) {
+    const I18NString idObj = object.element.getAttribute(STR_id);
+    TRN_ASSERT_NAMED(!idObj.empty(), "Cannot be empty");
+    task.AddObject(idObj);
+  }
+}
 
 }  // namespace
 
@@ -70,23 +93,15 @@ void DXAnalyzeRequestTaskHelper::AddObject(const I18NString& id) {
 void DXAnalyzeRequestTaskHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const {
   elem = doc.createElement(STR_task);
   elem.setAttribute(STR_name, ToString(m_task));
-  TRNIDOM_Element objects = dxmd::appendElement(elem, STR_objects);
-  for (const I18NString& id : m_objects) dxmd::appendElement(objects, STR_object, STR_id, id);
-  TRNIDOM_Element checks = dxmd::appendElement(elem, STR_checks);
-  for (const ECheck check : m_checks) dxmd::appendElement(checks, STR_check, STR_name, ToString(check));
+  const TRNIDOM_Element objects = appendElement(elem, STR_objects);
+  for (const I18NString& id : m_objects) appendElement(objects, STR_object, STR_id, id);
+  const TRNIDOM_Element checks = appendElement(elem, STR_checks);
+  for (const ECheck check : m_checks) appendElement(checks, STR_check, STR_name, ToString(check));
 }
 
 void DXAnalyzeRequestTaskHelper::doTake(TRNIDOM_Element& elem) {
-  for (const TRNIDOM_Element check : elem.getElementsByTagName(STR_check)) {
-    const ECheck eCheck = ToCheck(check.getAttribute(STR_name));
-    TRN_ASSERT(eCheck != kCheckUnknown);
-    AddCheck(eCheck);
-  }
-  for (const TRNIDOM_Element object : elem.getElementsByTagName(STR_object)) {
-    const I18NString idObj = object.getAttribute(STR_id);
-    TRN_ASSERT_NAMED(!idObj.empty(), "Cannot be empty");
-    AddObject(idObj);
-  }
+  const Descendants all = contentOf(elem);
+  read(*this, all, all.root());
 }
 
 DXModelAnalysisRequestHelper::DXModelAnalysisRequestHelper() = default;
@@ -99,14 +114,15 @@ DXAnalyzeRequestTaskHelper* DXModelAnalysisRequestHelper::AddTask(DXAnalyzeReque
 
 void DXModelAnalysisRequestHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const {
   elem = doc.createElement(STR_analyzeModelRequest);
-  TRNIDOM_Element tasks = dxmd::appendElement(elem, STR_tasks);
-  for (const DXAnalyzeRequestTaskHelper* task : m_tasks) dxmd::appendMade(tasks, doc, *task);
+  const TRNIDOM_Element tasks = appendElement(elem, STR_tasks);
+  for (const DXAnalyzeRequestTaskHelper* task : m_tasks) appendMade(tasks, doc, *task);
 }
 
 void DXModelAnalysisRequestHelper::doTake(TRNIDOM_Element& elem) {
-  for (TRNIDOM_Element task : elem.getElementsByTagName(STR_task)) {
-    const auto eTask = DXAnalyzeRequestTaskHelper::ToTask(task.getAttribute(STR_name));
+  const Descendants all = contentOf(elem);
+  for (const auto& task : all.below(all.root(), kTask)) {
+    const auto eTask = DXAnalyzeRequestTaskHelper::ToTask(task.element.getAttribute(STR_name));
     TRN_ASSERT(eTask != DXAnalyzeRequestTaskHelper::kTaskUnknown);
-    AddTask(eTask)->doTake(task);
+    read(*AddTask(eTask), all, task);
   }
 }

@@ -3,6 +3,8 @@
 #include <dxmd/core/Dom.h>
 #include <dxmd/resources/Vocabulary.h>
 
+using namespace dxmd;
+
 namespace {
 
 const I18NString STR_id("id");
@@ -14,9 +16,9 @@ const I18NString STR_relatedObjects("relatedObjects");
 const I18NString STR_relatedObject("relatedObject");
 
 // What an object and a related one are known by.
-TRNIDOM_Element appendObject(TRNIDOM_Element& parent, const I18NString& elementName, const I18NString& name,
+TRNIDOM_Element appendObject(const TRNIDOM_Element& parent, const I18NString& elementName, const I18NString& name,
                              const I18NString& id, const I18NString& className, const I18NString& path) {
-  TRNIDOM_Element object = dxmd::appendElement(parent, elementName, STR_name, name);
+  TRNIDOM_Element object = appendElement(parent, elementName, STR_name, name);
   object.setAttribute(STR_id, id);
   object.setAttribute(STR_class, className);
   object.setAttribute(STR_path, path);
@@ -47,9 +49,9 @@ void DXAnalyzeResponseIssueObjectHelper::doMake(TRNIDOM_Document&, TRNIDOM_Eleme
   TRNIDOM_Element object = appendObject(elem, STR_object, m_name, m_id, m_className, m_path);
   object.setAttribute(STR_refclass, m_refclass);
   object.setAttribute(STR_subtype, m_subtype == kSubTypeMeasure ? STR_measure : STR_empty);
-  TRNIDOM_Element messages = dxmd::appendElement(object, STR_messages);
-  for (const I18NString& message : m_messages) dxmd::appendTextElement(messages, STR_message, message);
-  TRNIDOM_Element relatedObjects = dxmd::appendElement(object, STR_relatedObjects);
+  const TRNIDOM_Element messages = appendElement(object, STR_messages);
+  for (const I18NString& message : m_messages) appendElementWithTextNode(messages, STR_message, message);
+  const TRNIDOM_Element relatedObjects = appendElement(object, STR_relatedObjects);
   for (const SObject* related : m_relatedObjects)
     appendObject(relatedObjects, STR_relatedObject, related->name, related->id, related->className, related->path);
 }
@@ -79,7 +81,7 @@ void DXAnalyzeResponseTaskHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element&
   elem = doc.createElement(STR_task);
   elem.setAttribute(STR_name, DXAnalyzeRequestTaskHelper::ToString(m_task));
   elem.setAttribute(STR_status, m_success != 0 ? STR_success : STR_failure);
-  for (const DXAnalyzeResponseIssueHelper* issue : m_issues) dxmd::appendMade(elem, doc, *issue);
+  for (const DXAnalyzeResponseIssueHelper* issue : m_issues) appendMade(elem, doc, *issue);
 }
 
 const I18NString DXModelAnalysisResponseHelper::STR_refTopicURL("refTopicURL");
@@ -94,6 +96,6 @@ DXAnalyzeResponseTaskHelper* DXModelAnalysisResponseHelper::AddTask(DXAnalyzeReq
 
 void DXModelAnalysisResponseHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const {
   elem = doc.createElement(STR_analyzeModelResponse);
-  TRNIDOM_Element tasks = dxmd::appendElement(elem, STR_tasks);
-  for (const DXAnalyzeResponseTaskHelper* task : m_tasks) dxmd::appendMade(tasks, doc, *task);
+  const TRNIDOM_Element tasks = appendElement(elem, STR_tasks);
+  for (const DXAnalyzeResponseTaskHelper* task : m_tasks) appendMade(tasks, doc, *task);
 }

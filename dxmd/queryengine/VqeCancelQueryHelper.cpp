@@ -14,6 +14,6 @@ VqeCancelQueryHelper::~VqeCancelQueryHelper() = default;
 
 void VqeCancelQueryHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const {
   TRNIDOM_Element cancel = doc.createElement(STR_cancel);
-  setChildValue(cancel, STR_requestID, GetDefaultDXRequestID());
+  appendValueElement(cancel, STR_requestID, GetDefaultDXRequestID());
   Incorporate(doc, elem, cancel);
 }

@@ -1,10 +1,12 @@
 #include <dxmd/queryengine/VqeExpandParameterHelper.h>
 
 #include <trn/TRNAssert.h>
-#include <trnidom/TRNIDOM_Helper.h>
 #include <trnidom/TRNIDOM_NodeList.h>
 
+#include <dxmd/core/Dom.h>
 #include <dxmd/resources/Vocabulary.h>
+
+using namespace dxmd;
 
 VqeExpandParameterHelper::VqeExpandParameterHelper(const I18NString& modelPath) : QFDXCommandHelper(modelPath) {}
 
@@ -16,7 +18,7 @@ void VqeExpandParameterHelper::SetParameterisedValue(const I18NString& value) {
 
 void VqeExpandParameterHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const {
   TRNIDOM_Element expand = doc.createElement(STR_expand);
-  TRNIDOM_Helper::findOrCreateElementWithText(expand, STR_expression, m_parameterisedValue);
+  appendElementWithText(expand, STR_expression, m_parameterisedValue);
   QFDXCommandHelper::Incorporate(doc, elem, expand);
 }
 

@@ -6,6 +6,7 @@
 #include <trnidom/TRNIDOM_NodeList.h>
 
 #include <dxmd/core/Dom.h>
+#include <dxmd/core/Nodes.h>
 #include <dxmd/resources/Vocabulary.h>
 
 using namespace dxmd;
@@ -20,7 +21,7 @@ void VqeGetJoinPathsHelper::AddItem(const I18NString& expression) {
 
 void VqeGetJoinPathsHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const {
   TRNIDOM_Element getJoinPaths = doc.createElement(STR_getJoinPaths);
-  for (const I18NString& item : m_items) appendTextElement(getJoinPaths, STR_expression, item);
+  for (const I18NString& item : m_items) appendElementWithText(getJoinPaths, STR_expression, item);
   QFDXCommandHelper::Incorporate(doc, elem, getJoinPaths);
 }
 
@@ -36,7 +37,7 @@ void VqeGetJoinPathsHelper::GetJoins(std::set<I18NString>& joins) const {
   const TRNIDOM_NodeList paths = m_response.getElementsByTagName(STR_joinPath);
   for (std::size_t i = 0; i < paths.getLength(); ++i) {
     const TRNIDOM_Element path = paths.item(i);
-    for (const TRNIDOM_Node join : path.getElementsByTagName(STR_join))
+    for (const TRNIDOM_Element& join : DescendantElements(path, STR_join))
       joins.insert(TRNIDOM_Helper::getElementText(join));
     // The paths nested in this one come next in the list, and their joins have all been met.
     i += path.getElementsByTagName(STR_joinPath).getLength();

@@ -1,8 +1,7 @@
 #include <dxmd/queryengine/VqeGetParametersHelper.h>
 
-#include <trnidom/TRNIDOM_NodeList.h>
-
 #include <dxmd/core/Dom.h>
+#include <dxmd/core/Nodes.h>
 
 using namespace dxmd;
 
@@ -33,6 +32,6 @@ void VqeGetParametersHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem
 }
 
 void VqeGetParametersHelper::doTake(TRNIDOM_Element& elem) {
-  for (const TRNIDOM_Element parameter : elem.getElementsByTagName(kParmTag))
+  for (const TRNIDOM_Element& parameter : DescendantElements(elem, kParmTag))
     m_parameters.emplace_back(parameter.getAttribute(kParmNameAttr), parameter.getAttribute(kParmValueAttr));
 }

@@ -15,9 +15,8 @@ VqeQuerySubjectHelper::~VqeQuerySubjectHelper() = default;
 void VqeQuerySubjectHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const {
   TRNIDOM_Element querySubject = doc.createElement(STR_querySubject);
   querySubject.setAttribute(STR_type, STR_querySubject);
-  TRNIDOM_Helper::findOrCreateElementWithText(querySubject, STR_name, STR_aBmtQuerySubject);
-  TRNIDOM_Element definition = appendElement(querySubject, STR_definition);
-  appendImported(definition, m_definition);
+  appendElementWithText(querySubject, STR_name, STR_aBmtQuerySubject);
+  appendImported(appendElement(querySubject, STR_definition), m_definition);
 
   TRNIDOM_Element sql = TRNIDOM_Helper::findElementWithAttribute(querySubject, STR_sql, STR_type, STR_veltra);
   if (!sql.isNull()) sql.setAttribute(STR_type, STR_Veltra);

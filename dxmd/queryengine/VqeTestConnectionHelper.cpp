@@ -1,7 +1,5 @@
 #include <dxmd/queryengine/VqeTestConnectionHelper.h>
 
-#include <trnidom/TRNIDOM_Helper.h>
-
 #include <dxmd/core/Dom.h>
 #include <dxmd/resources/Vocabulary.h>
 
@@ -11,8 +9,8 @@ namespace {
 
 const I18NString STR_cubePassword("cubePassword");
 
-void setChildValueUnlessEmpty(TRNIDOM_Element& parent, const I18NString& name, const I18NString& value) {
-  if (!value.empty()) setChildValue(parent, name, value);
+void appendValueUnlessEmpty(const TRNIDOM_Element& parent, const I18NString& name, const I18NString& value) {
+  if (!value.empty()) appendValueElement(parent, name, value);
 }
 
 }  // namespace
@@ -34,21 +32,18 @@ VqeTestConnectionHelper::~VqeTestConnectionHelper() = default;
 
 void VqeTestConnectionHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const {
   elem = doc.createElement(STR_command);
-  TRNIDOM_Element service = TRNIDOM_Helper::findOrCreateElement(elem, STR_connection);
-  setChildValue(service, STR_dataSourceType, STR_QueryFrameworkService);
+  const TRNIDOM_Element service = appendElement(elem, STR_connection);
+  appendValueElement(service, STR_dataSourceType, STR_QueryFrameworkService);
 
-  TRNIDOM_Element database = TRNIDOM_Helper::findOrCreateElement(service, STR_connection);
-  setChildValue(database, STR_dataSource, m_dataSourceName);
-  setChildValue(database, STR_dataSourceType, STR_Database);
-  setChildValue(database, STR_connectionString, m_connectionString);
-  setChildValueUnlessEmpty(database, STR_name, m_connectionName);
-  setChildValueUnlessEmpty(database, STR_username, m_userName);
-  setChildValueUnlessEmpty(database, STR_password, m_password);
-  setChildValueUnlessEmpty(database, STR_cubePassword, m_cubePassword);
-  setChildValueUnlessEmpty(database, STR_namespace, m_namespace);
-  if (!m_signonName.empty()) {
-    TRNIDOM_Element signon = TRNIDOM_Helper::findOrCreateElement(database, STR_signon);
-    setChildValue(signon, STR_name, m_signonName);
-  }
-  TRNIDOM_Helper::findOrCreateElement(elem, STR_testConnection);
+  const TRNIDOM_Element database = appendElement(service, STR_connection);
+  appendValueElement(database, STR_dataSource, m_dataSourceName);
+  appendValueElement(database, STR_dataSourceType, STR_Database);
+  appendValueElement(database, STR_connectionString, m_connectionString);
+  appendValueUnlessEmpty(database, STR_name, m_connectionName);
+  appendValueUnlessEmpty(database, STR_username, m_userName);
+  appendValueUnlessEmpty(database, STR_password, m_password);
+  appendValueUnlessEmpty(database, STR_cubePassword, m_cubePassword);
+  appendValueUnlessEmpty(database, STR_namespace, m_namespace);
+  if (!m_signonName.empty()) appendValueElement(appendElement(database, STR_signon), STR_name, m_signonName);
+  appendElement(elem, STR_testConnection);
 }

@@ -1,7 +1,5 @@
 #include <dxmd/queryframework/QFDXCommandHelper.h>
 
-#include <trnidom/TRNIDOM_Helper.h>
-
 #include <dxmd/core/Dom.h>
 #include <dxmd/resources/Vocabulary.h>
 
@@ -22,8 +20,7 @@ void QFDXCommandHelper::SetQueryLocale(const I18NLocale* locale) {
 void QFDXCommandHelper::Incorporate(TRNIDOM_Document& doc, TRNIDOM_Element& out, TRNIDOM_Element& inner) const {
   TRNIDOM_Element dxCommand = doc.createElement(STR_dxCommand);
   if (m_queryLocale != nullptr) dxCommand.setAttribute(STR_queryLocale, m_queryLocale->getName());
-  TRNIDOM_Element source = TRNIDOM_Helper::findOrCreateElement(dxCommand, STR_source);
-  TRNIDOM_Helper::findOrCreateElementWithText(source, STR_model, GetModelPath());
+  appendElementWithText(appendElement(dxCommand, STR_source), STR_model, GetModelPath());
   dxCommand.appendChild(inner);
   makeQueryFeedbacks(doc, dxCommand);
   QFCommandHelper::Incorporate(doc, out, dxCommand);
@@ -31,7 +28,7 @@ void QFDXCommandHelper::Incorporate(TRNIDOM_Document& doc, TRNIDOM_Element& out,
 
 void QFDXCommandHelper::makeQueryFeedbacks(TRNIDOM_Document&, TRNIDOM_Element& dxCommand) const {
   if (m_queryFeedbacks.empty()) return;
-  TRNIDOM_Element queryFeedback = TRNIDOM_Helper::findOrCreateElement(dxCommand, STR_queryFeedback);
+  const TRNIDOM_Element queryFeedback = appendElement(dxCommand, STR_queryFeedback);
   for (const auto feedback : m_queryFeedbacks)
     appendElement(queryFeedback, STR_property, STR_name, QFExecuteCommandHelper::ToString(feedback));
 }

@@ -50,7 +50,7 @@ constexpr RequestHintShape kRequestHintShapes[] = {
     {QFExecuteCommandHelper::kRequestHintExecutionOptimization, STR_executionOptimization, STR_value},
     {QFExecuteCommandHelper::kRequestHintQueryProcessing, STR_queryProcessing, STR_value}};
 
-TRNIDOM_Element findOrCreateNamed(TRNIDOM_Element& parent, const I18NString& elementName, const I18NString& name) {
+TRNIDOM_Element findOrCreateNamed(const TRNIDOM_Node& parent, const I18NString& elementName, const I18NString& name) {
   TRNIDOM_Element element = TRNIDOM_Helper::findOrCreateElement(parent, elementName);
   element.setAttribute(STR_name, name);
   return element;
@@ -141,12 +141,12 @@ void QFExecuteCommandHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& pare
   TRN_ASSERT(!m_queries.empty());
 
   TRNIDOM_Element execute = doc.createElement(STR_execute);
-  TRNIDOM_Element querySet = TRNIDOM_Helper::findOrCreateElement(execute, STR_querySet);
+  TRNIDOM_Element querySet = appendElement(execute, STR_querySet);
   if (m_locale != nullptr) querySet.setAttribute(STR_expressionLocale, m_locale->getName());
   MakeModelPath(querySet);
   MakeReportName(querySet, STR_default);
 
-  TRNIDOM_Element queries = TRNIDOM_Helper::findOrCreateElement(querySet, STR_queries);
+  const TRNIDOM_Element queries = appendElement(querySet, STR_queries);
   for (const QFQueryHelper* query : m_queries) appendMade(queries, doc, *query);
   makeResultDefinitions(querySet);
   makeRequestHints(querySet);
@@ -158,7 +158,7 @@ void QFExecuteCommandHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& pare
 }
 
 void QFExecuteCommandHelper::makeResultDefinitions(TRNIDOM_Element& querySet) const {
-  TRNIDOM_Element definitions = TRNIDOM_Helper::findOrCreateElement(querySet, STR_queryResultDefinitions);
+  const TRNIDOM_Element definitions = appendElement(querySet, STR_queryResultDefinitions);
   const I18NString& firstName = m_queries.items().front()->GetName();
   const bool singleDefinition = firstName == STR_SingleCount || firstName == STR_querySet;
 
@@ -181,7 +181,7 @@ void QFExecuteCommandHelper::makeResultDefinitions(TRNIDOM_Element& querySet) co
 
 void QFExecuteCommandHelper::makeRequestHints(TRNIDOM_Element& querySet) const {
   if (m_requestHints.empty()) return;
-  TRNIDOM_Element requestHints = TRNIDOM_Helper::findOrCreateElement(querySet, STR_requestHints);
+  const TRNIDOM_Element requestHints = appendElement(querySet, STR_requestHints);
   for (const auto& [hint, value] : m_requestHints)
     for (const RequestHintShape& shape : kRequestHintShapes)
       if (shape.hint == hint) appendElement(requestHints, shape.element, shape.attribute, value);
@@ -189,7 +189,7 @@ void QFExecuteCommandHelper::makeRequestHints(TRNIDOM_Element& querySet) const {
 
 void QFExecuteCommandHelper::makeQueryFeedbacks(TRNIDOM_Element& execute) const {
   if (m_queryFeedbacks.empty() && m_severityLevel == kQOSSeverityUnset) return;
-  TRNIDOM_Element queryFeedback = TRNIDOM_Helper::findOrCreateElement(execute, STR_queryFeedback);
+  TRNIDOM_Element queryFeedback = appendElement(execute, STR_queryFeedback);
   if (m_severityLevel != kQOSSeverityUnset) queryFeedback.setAttribute(STR_severityLevel, ToString(m_severityLevel));
   for (const EQueryFeedback feedback : m_queryFeedbacks)
     appendElement(queryFeedback, STR_property, STR_name, ToString(feedback));

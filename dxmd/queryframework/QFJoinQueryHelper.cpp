@@ -1,7 +1,5 @@
 #include <dxmd/queryframework/QFJoinQueryHelper.h>
 
-#include <trnidom/TRNIDOM_Helper.h>
-
 #include <dxmd/core/Dom.h>
 #include <dxmd/resources/Vocabulary.h>
 
@@ -20,18 +18,15 @@ QFJoinQueryHelper::QFJoinQueryHelper(const I18NString& name, const I18NString& l
 QFJoinQueryHelper::~QFJoinQueryHelper() = default;
 
 void QFJoinQueryHelper::SetSource(TRNIDOM_Element& query) const {
-  TRNIDOM_Element source = TRNIDOM_Helper::findOrCreateElement(query, STR_source);
-  TRNIDOM_Element joinOperation = TRNIDOM_Helper::findOrCreateElement(source, STR_joinOperation);
-  TRNIDOM_Element joinOperands = TRNIDOM_Helper::findOrCreateElement(joinOperation, STR_joinOperands);
+  const TRNIDOM_Element source = appendElement(query, STR_source);
+  const TRNIDOM_Element joinOperation = appendElement(source, STR_joinOperation);
+  const TRNIDOM_Element joinOperands = appendElement(joinOperation, STR_joinOperands);
 
-  TRNIDOM_Element left = TRNIDOM_Helper::findOrCreateElementWithAttribute(joinOperands, STR_joinOperand,
-                                                                          STR_cardinality, m_leftCardinality);
-  TRNIDOM_Helper::findOrCreateElementWithAttribute(left, STR_queryRef, STR_refQuery, m_leftQueryRef);
+  const TRNIDOM_Element left = appendElement(joinOperands, STR_joinOperand, STR_cardinality, m_leftCardinality);
+  appendElement(left, STR_queryRef, STR_refQuery, m_leftQueryRef);
+  const TRNIDOM_Element right = appendElement(joinOperands, STR_joinOperand, STR_cardinality, m_rightCardinality);
+  appendElement(right, STR_queryRef, STR_refQuery, m_rightQueryRef);
 
-  // Always a second operand, even when both cardinalities are the same.
-  TRNIDOM_Element right = appendElement(joinOperands, STR_joinOperand, STR_cardinality, m_rightCardinality);
-  TRNIDOM_Helper::findOrCreateElementWithAttribute(right, STR_queryRef, STR_refQuery, m_rightQueryRef);
-
-  TRNIDOM_Element joinFilter = TRNIDOM_Helper::findOrCreateElement(joinOperation, STR_joinFilter);
-  TRNIDOM_Helper::findOrCreateElementWithText(joinFilter, STR_filterExpression, m_joinFilterExpression);
+  const TRNIDOM_Element joinFilter = appendElement(joinOperation, STR_joinFilter);
+  appendElementWithText(joinFilter, STR_filterExpression, m_joinFilterExpression);
 }

@@ -4,8 +4,8 @@
 #include <trnidom/TRNIDOM_Helper.h>
 #include <trnidom/TRNIDOM_NodeList.h>
 
-#include <dxmd/core/Dom.h>
 #include <dxmd/core/EnumTexts.h>
+#include <dxmd/core/Nodes.h>
 #include <dxmd/resources/Vocabulary.h>
 
 using namespace dxmd;
@@ -51,8 +51,7 @@ bool QFResponseDomHelper::ExtractRetrieveProperty(const I18NString& name, I18NSt
   if (elmRevtiveProps.item(0).isNull()) return false;
   TRN_ASSERT(elmRevtiveProps.item(0).getNodeType() == TRNIDOM_Node::ELEMENT_NODE);
 
-  for (const TRNIDOM_Element nodeCurrent :
-       TRNIDOM_Element(elmRevtiveProps.item(0)).getElementsByTagName(STR_property)) {
+  for (const TRNIDOM_Element& nodeCurrent : DescendantElements(elmRevtiveProps.item(0), STR_property)) {
     TRN_ASSERT(nodeCurrent.getNodeType() == TRNIDOM_Node::ELEMENT_NODE);
     if (nodeCurrent.getAttribute(STR_name) != name || !nodeCurrent.hasChildNodes()) continue;
     value = nodeCurrent.getFirstChild().getNodeValue();
@@ -95,9 +94,9 @@ TRNIDOM_Element QFResponseDomHelper::GetFirstResultSetRow() const {
 }
 
 TRNIDOM_Element QFResponseDomHelper::GetNextResultSetRow(TRNIDOM_Element row) const {
-  return TRNIDOM_Helper::findNextSiblingElement(row, STR_row);
+  return firstNamed(row.getNextSibling(), STR_row);
 }
 
 void QFResponseDomHelper::GetResultSetRowValues(TRNIDOM_Element row, std::vector<I18NString>& values) const {
-  TRNIDOM_Helper::getChildAttributes(row, STR_value, STR_v, values);
+  for (const TRNIDOM_Element& value : ChildElements(row, STR_value)) values.push_back(value.getAttribute(STR_v));
 }

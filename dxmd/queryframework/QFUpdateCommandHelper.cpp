@@ -20,7 +20,7 @@ void QFUpdateCommandHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& eleme
   TRNIDOM_Element updateSet = appendElement(update, STR_updateSet);
   MakeModelPath(updateSet);
   for (const UpdateSubj* subject : m_updateSubjects) {
-    TRNIDOM_Element updateSubject = appendElement(updateSet, STR_updateSubject, STR_name, subject->name);
+    const TRNIDOM_Element updateSubject = appendElement(updateSet, STR_updateSubject, STR_name, subject->name);
     appendText(updateSubject, subject->text);
   }
   Incorporate(doc, element, update);

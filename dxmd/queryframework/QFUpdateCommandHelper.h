@@ -14,6 +14,12 @@
 /// Written: build and hand back, in the command envelope.
 class DXMD_API QFUpdateCommandHelper : public QFCommandHelper {
  public:
+  /// An update subject.
+  struct UpdateSubj {
+    I18NString name;
+    I18NString text;
+  };
+
   explicit QFUpdateCommandHelper(const I18NString& modelPath);
   ~QFUpdateCommandHelper() override;
 
@@ -24,11 +30,6 @@ class DXMD_API QFUpdateCommandHelper : public QFCommandHelper {
   void doMake(TRNIDOM_Document& doc, TRNIDOM_Element& element) const override;
 
  private:
-  struct UpdateSubj {
-    I18NString name;
-    I18NString text;
-  };
-
   dxmd::OwnedList<UpdateSubj> m_updateSubjects;
 };
 

@@ -1,9 +1,9 @@
 #include <dxmd/queryframework/QFValidateCommandHelper.h>
 
 #include <trnidom/TRNIDOM_Helper.h>
-#include <trnidom/TRNIDOM_NodeList.h>
 
 #include <dxmd/core/Dom.h>
+#include <dxmd/core/Nodes.h>
 #include <dxmd/resources/Vocabulary.h>
 
 using namespace dxmd;
@@ -40,7 +40,7 @@ void QFValidateCommandHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& ele
 void QFValidateCommandHelper::CheckReponse(const TRNIDOM_Element& response, TRNSeverity& severity,
                                            I18NString& messages) const {
   severity = kSeverityNone;
-  for (const TRNIDOM_Element message : response.getElementsByTagName(STR_message)) {
+  for (const TRNIDOM_Element& message : DescendantElements(response, STR_message)) {
     severity = severityAfter(severity, message.getAttribute(STR_severity));
     messages += TRNIDOM_Helper::getElementText(message);
     messages += STR_lineFeed;

@@ -1,11 +1,14 @@
 #include <dxmd/queryservice/GetSimpleNodeValue.h>
 
-#include <dxmd/core/Dom.h>
+#include <dxmd/core/Nodes.h>
+
+using namespace dxmd;
 
 bool GetSimpleNodeValue(TRNIDOM_Element& element, const I18NString& name, I18NString& value) {
-  for (TRNIDOM_Node child = element.getFirstChild(); !child.isNull(); child = child.getNextSibling()) {
-    if (!dxmd::isElement(child) || child.getNodeName() != name || !child.hasChildNodes()) continue;
-    value = child.getFirstChild().getNodeValue();
+  for (const TRNIDOM_Element& child : ChildElements(element, name)) {
+    const TRNIDOM_Node content = child.getFirstChild();
+    if (content.isNull()) continue;
+    value = content.getNodeValue();
     return true;
   }
   return false;

@@ -82,8 +82,7 @@ void QsApiConnectHelper::AddModel(const I18NString& name, bool bme) {
 }
 
 const I18NString& QsApiConnectHelper::GetDXServiceID() {
-  static const I18NString kDXServiceID("DX");
-  return kDXServiceID;
+  return STR_DX;
 }
 
 I18NString QsApiConnectHelper::MakeSessionID(const unsigned long& id) {
@@ -103,7 +102,7 @@ void QsApiConnectHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) co
   for (const auto& [key, value] : m_properties)
     if (!value.empty()) appendValueElement(elem, key, value);
   for (const auto& [name, kind] : m_models) {
-    TRNIDOM_Element model = appendElement(elem, STR_connection);
+    const TRNIDOM_Element model = appendElement(elem, STR_connection);
     appendValueElement(model, STR_name, name);
     appendValueElement(model, STR_dataSourceType, kind);
   }

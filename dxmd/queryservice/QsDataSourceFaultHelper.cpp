@@ -1,7 +1,13 @@
 #include <dxmd/queryservice/QsDataSourceFaultHelper.h>
 
+#include <utility>
+
 #include <trnidom/TRNIDOM_Helper.h>
-#include <trnidom/TRNIDOM_NodeList.h>
+
+#include <dxmd/core/Descendants.h>
+#include <dxmd/resources/Vocabulary.h>
+
+using namespace dxmd;
 
 namespace {
 
@@ -16,14 +22,7 @@ const I18NString STR_faultSubstring("faultSubstring");
 const I18NString STR_faultDataSource("faultDataSource");
 const I18NString STR_faultConnection("faultConnection");
 const I18NString STR_faultSignon("faultSignon");
-const I18NString STR_dataSource("dataSource");
-const I18NString STR_connection("connection");
-const I18NString STR_signon("signon");
-const I18NString STR_name("name");
-const I18NString STR_type("type");
 const I18NString STR_searchPath("searchPath");
-const I18NString STR_connectionString("connectionString");
-const I18NString STR_value("value");
 
 // The first child of the first descendant of that name, whatever its kind, gives the text.
 void readText(const TRNIDOM_Element& fault, const I18NString& name, I18NString& text) {
@@ -31,39 +30,82 @@ void readText(const TRNIDOM_Element& fault, const I18NString& name, I18NString& 
   if (!first.isNull()) text = first.getNodeValue();
 }
 
+// Appends a record, which the list's owner deletes.
+template <typename Record>
+Record& appendRecord(std::vector<Record*>& records) {
+  auto record = std::make_unique<Record>();
+  records.push_back(record.get());
+  return *record.release();
+}
+
+template <typename Record>
+void deleteAll(const std::vector<Record*>& records) noexcept {
+  for (const Record* record : records) delete record;
+}
+
+// What records are read from.
+enum Name { kDataSource, kConnection, kSignon, kName, kType, kSearchPath, kConnectionString };
+
+Descendants recordsBelow(const TRNIDOM_Element& root) {
+  return Descendants(
+      root, {STR_dataSource, STR_connection, STR_signon, STR_name, STR_type, STR_searchPath, STR_connectionString});
+}
+
 // The attribute "value" of the first descendant of that name gives the text.
-bool readValue(const TRNIDOM_Element& parent, const I18NString& name, I18NString& text) {
-  const TRNIDOM_Element element = TRNIDOM_Helper::findFirstElement(parent, name);
-  if (element.isNull()) return false;
-  text = element.getAttribute(STR_value);
-  return true;
+void readValue(const Descendants& all, const Descendants::Found& parent, Name name, I18NString& text) {
+  const TRNIDOM_Element element = all.below(parent, name).first();
+  if (!element.isNull()) text = element.getAttribute(STR_value);
 }
 
-void readSignon(const TRNIDOM_Element& element, SignonInfo& signon) {
-  readValue(element, STR_name, signon.name);
-  readValue(element, STR_searchPath, signon.searchPath);
+void readSignon(const Descendants& all, const Descendants::Found& element, SignonInfo& signon) {
+  readValue(all, element, kName, signon.name);
+  readValue(all, element, kSearchPath, signon.searchPath);
 }
 
-void readConnection(const TRNIDOM_Element& element, ConnectionInfo& connection) {
-  readValue(element, STR_name, connection.name);
-  readValue(element, STR_searchPath, connection.searchPath);
+void readConnection(const Descendants& all, const Descendants::Found& element, ConnectionInfo& connection) {
+  readValue(all, element, kName, connection.name);
+  readValue(all, element, kSearchPath, connection.searchPath);
   // Callers look for the connection string where the search path is; it takes precedence.
-  readValue(element, STR_connectionString, connection.searchPath);
-  for (const TRNIDOM_Element signon : element.getElementsByTagName(STR_signon))
-    readSignon(signon, *connection.signons.emplace());
+  readValue(all, element, kConnectionString, connection.searchPath);
+  for (const Descendants::Found& signon : all.below(element, kSignon))
+    readSignon(all, signon, appendRecord(connection.signons));
 }
 
-bool readDataSource(const TRNIDOM_Element& element, const I18NString& name, DataSourceInfo& info) {
-  I18NString found;
-  if (!readValue(element, STR_name, found) || found != name) return false;
-  info.name = found;
-  readValue(element, STR_type, info.type);
-  for (const TRNIDOM_Element connection : element.getElementsByTagName(STR_connection))
-    readConnection(connection, *info.connections.emplace());
+bool readDataSource(const Descendants& all, const Descendants::Found& element, const I18NString& name,
+                    DataSourceInfo& info) {
+  const TRNIDOM_Element nameElement = all.below(element, kName).first();
+  if (nameElement.isNull() || nameElement.getAttribute(STR_value) != name) return false;
+  info.name = name;
+  readValue(all, element, kType, info.type);
+  for (const Descendants::Found& connection : all.below(element, kConnection))
+    readConnection(all, connection, appendRecord(info.connections));
   return true;
 }
 
 }  // namespace
+
+QsDataSourceFaultHelper::ConnectionInfo::~ConnectionInfo() {
+  deleteAll(signons);
+}
+
+ConnectionInfo& QsDataSourceFaultHelper::ConnectionInfo::operator=(ConnectionInfo&& other) noexcept {
+  name = std::move(other.name);
+  searchPath = std::move(other.searchPath);
+  connectionString = std::move(other.connectionString);
+  signons.swap(other.signons);
+  return *this;
+}
+
+QsDataSourceFaultHelper::DataSourceInfo::~DataSourceInfo() {
+  deleteAll(connections);
+}
+
+DataSourceInfo& QsDataSourceFaultHelper::DataSourceInfo::operator=(DataSourceInfo&& other) noexcept {
+  name = std::move(other.name);
+  type = std::move(other.type);
+  connections.swap(other.connections);
+  return *this;
+}
 
 ConnectionInfo* QsDataSourceFaultHelper::DataSourceInfo::GetConnectionInfo(const I18NString& connectionName) const {
   ConnectionInfo* connection = nullptr;
@@ -90,15 +132,18 @@ void QsDataSourceFaultHelper::doTake(TRNIDOM_Element& elem) {
   readText(m_faultElement, STR_faultSubcode, m_faultSubCode);
   readText(m_faultElement, STR_faultstring, m_faultString);
   readText(m_faultElement, STR_faultSubstring, m_faultSubString);
-  readValue(m_faultElement, STR_faultDataSource, m_faultDataSourceName);
+  const TRNIDOM_Element dataSource = TRNIDOM_Helper::findFirstElement(m_faultElement, STR_faultDataSource);
+  if (!dataSource.isNull()) m_faultDataSourceName = dataSource.getAttribute(STR_value);
 }
 
 ConnectionInfo* QsDataSourceFaultHelper::GetFaultConnection() {
   if (m_faultConnection) return m_faultConnection.get();
   const TRNIDOM_Element element = TRNIDOM_Helper::findFirstElement(m_faultElement, STR_faultConnection);
   if (element.isNull()) return nullptr;
-  m_faultConnection = std::make_unique<ConnectionInfo>();
-  readConnection(element, *m_faultConnection);
+  auto connection = std::make_unique<ConnectionInfo>();
+  const Descendants all = recordsBelow(element);
+  readConnection(all, all.root(), *connection);
+  m_faultConnection = std::move(connection);  // only once it is complete
   return m_faultConnection.get();
 }
 
@@ -106,14 +151,17 @@ SignonInfo* QsDataSourceFaultHelper::GetFaultSignon() {
   if (m_faultSignon) return m_faultSignon.get();
   const TRNIDOM_Element element = TRNIDOM_Helper::findFirstElement(m_faultElement, STR_faultSignon);
   if (element.isNull()) return nullptr;
-  m_faultSignon = std::make_unique<SignonInfo>();
-  readSignon(element, *m_faultSignon);
+  auto signon = std::make_unique<SignonInfo>();
+  const Descendants all = recordsBelow(element);
+  readSignon(all, all.root(), *signon);
+  m_faultSignon = std::move(signon);
   return m_faultSignon.get();
 }
 
 bool QsDataSourceFaultHelper::GetDataSourceInfo(const I18NString& name, DataSourceInfo& info) const {
   bool lastMatches = false;
-  for (const TRNIDOM_Element dataSource : m_faultElement.getElementsByTagName(STR_dataSource))
-    lastMatches = readDataSource(dataSource, name, info);
+  const Descendants all = recordsBelow(m_faultElement);
+  for (const Descendants::Found& dataSource : all.below(all.root(), kDataSource))
+    lastMatches = readDataSource(all, dataSource, name, info);
   return lastMatches;
 }

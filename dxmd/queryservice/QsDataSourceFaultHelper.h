@@ -2,13 +2,13 @@
 #define DXMD_QUERYSERVICE_QSDATASOURCEFAULTHELPER_H
 
 #include <memory>
+#include <vector>
 
 #include <trn/I18NString.h>
 #include <trnidom/TRNIDOM_Element.h>
 
 #include <dxmd/core/ActionHandlerBase.h>
 #include <dxmd/core/Export.h>
-#include <dxmd/core/OwnedList.h>
 
 /// Reads a fault that the query service reports about a data source: its codes and texts, the connection and sign-on at
 /// fault, and the descriptions of data sources.
@@ -23,19 +23,29 @@ class DXMD_API QsDataSourceFaultHelper : public ActionHandlerBase {
     I18NString searchPath;
   };
 
-  /// A connection of a data source.
+  /// A connection of a data source. It owns its sign-ons, each made with `new`, and deletes them.
   struct DXMD_API ConnectionInfo {
+    ConnectionInfo() = default;
+    ConnectionInfo(ConnectionInfo&&) = default;
+    ConnectionInfo& operator=(ConnectionInfo&& other) noexcept;
+    ~ConnectionInfo();
+
     I18NString name;
     I18NString searchPath;        ///< the connection string where the fault gives one, else the search path
     I18NString connectionString;  ///< never read from a fault
-    dxmd::OwnedList<SignonInfo> signons;
+    std::vector<SignonInfo*> signons;
   };
 
-  /// A data source.
+  /// A data source. It owns its connections, each made with `new`, and deletes them.
   struct DXMD_API DataSourceInfo {
+    DataSourceInfo() = default;
+    DataSourceInfo(DataSourceInfo&&) = default;
+    DataSourceInfo& operator=(DataSourceInfo&& other) noexcept;
+    ~DataSourceInfo();
+
     I18NString name;
     I18NString type;
-    dxmd::OwnedList<ConnectionInfo> connections;
+    std::vector<ConnectionInfo*> connections;
 
     /// The first connection of that name; the last of all when none has it, null when there are none. The record keeps
     /// owning it.

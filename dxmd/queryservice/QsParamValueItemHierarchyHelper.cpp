@@ -9,6 +9,7 @@
 #include <trnidom/TRNIDOM_NodeList.h>
 
 #include <dxmd/core/Dom.h>
+#include <dxmd/core/Nodes.h>
 #include <dxmd/resources/Vocabulary.h>
 
 using namespace dxmd;
@@ -40,8 +41,7 @@ const std::vector<QsParamValueItemHierarchyHelper*>& QsParamValueItemHierarchyHe
   if (!m_subNodes.empty()) return m_subNodes.items();
   OwnedList<QsParamValueItemHierarchyHelper> nodes;
   const TRNIDOM_Element subNodes = TRNIDOM_Helper::findChildElement(element(), STR_subNodes);
-  for (TRNIDOM_Element item = TRNIDOM_Helper::findChildElement(subNodes, STR_item); !item.isNull();
-       item = TRNIDOM_Helper::findNextSiblingElement(item, STR_item)) {
+  for (TRNIDOM_Element& item : ChildElements(subNodes, STR_item)) {
     std::unique_ptr<QsParamValueItemHelper> p(Create(STR_bus_hierarchicalParmValueItem, item));
     TRN_ASSERT(p->GetType() == kValueItemHierarchy);
     p->Take(item);

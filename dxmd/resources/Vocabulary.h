@@ -21,6 +21,21 @@ class VocabularyEntry {
   long m_index;
 };
 
+/// A fixed text: an entry of the vocabulary, or a static constant of a helper's source. Constant-initialised, so that
+/// tables of them run no code at load.
+class FixedText {
+ public:
+  constexpr FixedText(VocabularyEntry entry) noexcept : m_entry(entry) {}              // NOLINT: implicit by design
+  constexpr FixedText(const I18NString& constant) noexcept : m_constant(&constant) {}  // NOLINT: implicit by design
+  FixedText(I18NString&&) = delete;
+
+  const I18NString& text() const { return m_constant != nullptr ? *m_constant : m_entry.text(); }
+
+ private:
+  VocabularyEntry m_entry{0};
+  const I18NString* m_constant = nullptr;
+};
+
 }  // namespace dxmd
 
 // Each entry goes by two names: the long one, which assertion messages spell out, and STR_ with the XML name.

@@ -1,9 +1,10 @@
 #include <dxmd/updateobject/DXActionFeedbackHelper.h>
 
-#include <trnidom/TRNIDOM_NodeList.h>
-
 #include <dxmd/core/Dom.h>
+#include <dxmd/core/Nodes.h>
 #include <dxmd/resources/Vocabulary.h>
+
+using namespace dxmd;
 
 DXActionFeedbackHelper::DXActionFeedbackHelper() = default;
 
@@ -20,13 +21,13 @@ DXFeedbackEntry* DXActionFeedbackHelper::AddEntry(DXFeedbackEntry* parent, DXFee
 }
 
 void DXActionFeedbackHelper::Render(I18NString& out) {
-  for (TRNIDOM_Element entry : m_feedback.getElementsByTagName(STR_entry))
+  for (TRNIDOM_Element& entry : DescendantElements(m_feedback, STR_entry))
     DXFeedbackEntry::Render(entry, STR_empty, out);
 }
 
 void DXActionFeedbackHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const {
   elem = doc.createElement(STR_feedback);
-  for (const DXFeedbackEntry* entry : m_entries) dxmd::appendMade(elem, doc, *entry);
+  for (const DXFeedbackEntry* entry : m_entries) appendMade(elem, doc, *entry);
 }
 
 void DXActionFeedbackHelper::doTake(TRNIDOM_Element& elem) {

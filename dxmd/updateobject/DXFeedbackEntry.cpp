@@ -5,11 +5,14 @@
 
 #include <dxmd/core/Dom.h>
 #include <dxmd/core/EnumTexts.h>
+#include <dxmd/core/Nodes.h>
 #include <dxmd/resources/Vocabulary.h>
+
+using namespace dxmd;
 
 namespace {
 
-constexpr dxmd::EnumTexts<DXFeedbackEntry::EEntryClass, 4> kEntryClasses{{
+constexpr EnumTexts<DXFeedbackEntry::EEntryClass, 4> kEntryClasses{{
     {DXFeedbackEntry::kEntryInfo, STR_info},
     {DXFeedbackEntry::kEntryWarning, STR_warning},
     {DXFeedbackEntry::kEntryError, STR_error},
@@ -47,9 +50,8 @@ void DXFeedbackEntry::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const
     bare.pop_back();
     element.setAttribute(STR_class, ToString(entry->m_entryClass));
     if (!entry->m_name.empty()) element.setAttribute(STR_name, entry->m_name);
-    dxmd::appendText(element, entry->m_text);
-    for (const DXFeedbackEntry* child : entry->m_children)
-      bare.emplace_back(child, dxmd::appendElement(element, STR_entry));
+    appendText(element, entry->m_text);
+    for (const DXFeedbackEntry* child : entry->m_children) bare.emplace_back(child, appendElement(element, STR_entry));
   }
 }
 
@@ -57,5 +59,5 @@ void DXFeedbackEntry::Render(TRNIDOM_Element& elem, const I18NString& indent, I1
   out += kLineFeed;
   out += indent;
   out += elem.getAttribute(STR_class) == STR_error ? kErrorPrefix : kOtherPrefix;
-  out += dxmd::firstText(elem).getNodeValue();
+  out += firstText(elem).getNodeValue();
 }

@@ -9,13 +9,16 @@
 
 #include <dxmd/core/Dom.h>
 #include <dxmd/core/EnumTexts.h>
+#include <dxmd/core/Nodes.h>
 #include <dxmd/resources/Vocabulary.h>
+
+using namespace dxmd;
 
 namespace {
 
 using Task = DXUpdateRequestTaskHelper;
 
-constexpr dxmd::EnumTexts<Task::ETask, 6> kTasks{{
+constexpr EnumTexts<Task::ETask, 6> kTasks{{
     {Task::kTaskAddProperty, STR_addProperty},
     {Task::kTaskRemoveProperty, STR_removeProperty},
     {Task::kTaskUpdateProperty, STR_updateProperty},
@@ -24,7 +27,7 @@ constexpr dxmd::EnumTexts<Task::ETask, 6> kTasks{{
     {Task::kTaskRemoveObject, STR_removeObject},
 }};
 
-constexpr dxmd::EnumTexts<Task::EParameter, 33> kParameters{{
+constexpr EnumTexts<Task::EParameter, 33> kParameters{{
     {Task::kParamPropertyType, STR_propertyType},
     {Task::kParamPropertyValue, STR_propertyValue},
     {Task::kParamForceUpdate, STR_forceUpdate},
@@ -113,7 +116,7 @@ void DXUpdateRequestTaskHelper::addValue(EParameter parameter, const Arguments&.
     found->second.emplace(arguments...);
     return;
   }
-  dxmd::OwnedList<ParamValue> values;
+  OwnedList<ParamValue> values;
   values.emplace(arguments...);
   m_parameters.emplace(parameter, std::move(values));
 }
@@ -141,15 +144,15 @@ const std::vector<DXUpdateRequestTaskHelper::ParamValue*>* DXUpdateRequestTaskHe
 void DXUpdateRequestTaskHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const {
   elem = doc.createElement(STR_task);
   elem.setAttribute(STR_name, ToString(m_task));
-  TRNIDOM_Element parameters = dxmd::appendElement(elem, STR_parameters);
+  const TRNIDOM_Element parameters = appendElement(elem, STR_parameters);
   for (const auto& [parameter, values] : m_parameters) {
     for (const ParamValue* value : values) {
-      TRNIDOM_Element param = dxmd::appendElement(parameters, STR_param, STR_name, ToString(parameter));
+      TRNIDOM_Element param = appendElement(parameters, STR_param, STR_name, ToString(parameter));
       if (!value->locale.empty()) param.setAttribute(STR_locale, value->locale);
       if (value->element.isNull())
         param.setAttribute(STR_value, value->value);
       else
-        dxmd::appendImported(param, value->element);
+        appendImported(param, value->element);
     }
   }
 }
@@ -159,7 +162,7 @@ void DXUpdateRequestTaskHelper::doTake(TRNIDOM_Element& elem) {
 }
 
 void DXUpdateRequestTaskHelper::parseParameters() {
-  for (const TRNIDOM_Node nodeTemp : m_taskElement.getElementsByTagName(STR_param)) {
+  for (const TRNIDOM_Node& nodeTemp : DescendantElements(m_taskElement, STR_param)) {
     TRN_ASSERT(nodeTemp.getNodeType() == TRNIDOM_Node::ELEMENT_NODE);
     const TRNIDOM_Element param = nodeTemp;
     const EParameter eParam = ToParameter(param.getAttribute(STR_name));
@@ -195,7 +198,7 @@ bool DXUpdateRequestTaskHelper::GetNextIDParameters(std::vector<I18NString>& vID
   vIDs.clear();
   TRNIDOM_Element param = idCrap_elmCurrIDParam.isNull() ? TRNIDOM_Helper::findFirstElement(m_taskElement, STR_param)
                                                          : idCrap_elmCurrIDParam.getNextSibling();
-  while (!param.isNull() && !(dxmd::isElement(param) && param.getNodeName() == STR_param && ContainsIDs(param)))
+  while (!param.isNull() && !(isElement(param) && param.getNodeName() == STR_param && ContainsIDs(param)))
     param = param.getNextSibling();
   if (param.isNull()) return false;
 
@@ -204,8 +207,8 @@ bool DXUpdateRequestTaskHelper::GetNextIDParameters(std::vector<I18NString>& vID
     vIDs.push_back(param.getAttribute(STR_value));
     return true;
   }
-  for (const TRNIDOM_Node ref : subtreeOf(param).getElementsByTagName(STR_refobj)) {
-    const TRNIDOM_Node text = dxmd::firstText(ref);
+  for (const TRNIDOM_Node& ref : DescendantElements(subtreeOf(param), STR_refobj)) {
+    const TRNIDOM_Node text = firstText(ref);
     if (!text.isNull()) vIDs.push_back(text.getNodeValue());
   }
   return true;
@@ -221,7 +224,7 @@ void DXUpdateRequestTaskHelper::UpdateCurrentIDParameters(const std::vector<I18N
   const TRNIDOM_NodeList listRefs = subtreeOf(idCrap_elmCurrIDParam).getElementsByTagName(STR_refobj);
   TRN_ASSERT(listRefs.getLength() == vIDs.size());
   for (std::size_t i = 0; i < vIDs.size(); ++i) {
-    TRNIDOM_Node text = dxmd::firstText(listRefs.item(i));
+    TRNIDOM_Node text = firstText(listRefs.item(i));
     if (!text.isNull()) text.setNodeValue(vIDs[i]);
   }
 }
@@ -240,12 +243,12 @@ DXUpdateRequestTaskHelper* DXUpdateObjectRequestHelper::AddTask(DXUpdateRequestT
 
 void DXUpdateObjectRequestHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const {
   elem = doc.createElement(STR_updateObjectRequest);
-  TRNIDOM_Element tasks = dxmd::appendElement(elem, STR_tasks);
-  for (const DXUpdateRequestTaskHelper* task : m_tasks) dxmd::appendMade(tasks, doc, *task);
+  const TRNIDOM_Element tasks = appendElement(elem, STR_tasks);
+  for (const DXUpdateRequestTaskHelper* task : m_tasks) appendMade(tasks, doc, *task);
 }
 
 void DXUpdateObjectRequestHelper::doTake(TRNIDOM_Element& elem) {
-  for (TRNIDOM_Element task : elem.getElementsByTagName(STR_task)) {
+  for (TRNIDOM_Element& task : DescendantElements(elem, STR_task)) {
     const auto eTask = DXUpdateRequestTaskHelper::ToTask(task.getAttribute(STR_name));
     TRN_ASSERT(eTask != DXUpdateRequestTaskHelper::kTaskUnknown);
     AddTask(eTask)->doTake(task);

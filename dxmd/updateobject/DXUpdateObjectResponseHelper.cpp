@@ -4,23 +4,26 @@
 
 #include <trn/TRNAssert.h>
 #include <trnidom/TRNIDOM_Helper.h>
-#include <trnidom/TRNIDOM_NodeList.h>
 
+#include <dxmd/core/Descendants.h>
 #include <dxmd/core/Dom.h>
 #include <dxmd/core/EnumTexts.h>
+#include <dxmd/core/Nodes.h>
 #include <dxmd/resources/Vocabulary.h>
 #include <dxmd/updateobject/DXActionFeedbackHelper.h>
+
+using namespace dxmd;
 
 namespace {
 
 using Task = DXUpdateResponseTaskHelper;
 
-constexpr dxmd::EnumTexts<Task::EStatus, 2> kStatuses{{
+constexpr EnumTexts<Task::EStatus, 2> kStatuses{{
     {Task::kStatusSuccess, STR_success},
     {Task::kStatusFailure, STR_failure},
 }};
 
-constexpr dxmd::EnumTexts<Task::EParameter, 2> kParameters{{
+constexpr EnumTexts<Task::EParameter, 2> kParameters{{
     {Task::kParamProperty, STR_property},
     {Task::kParamObject, STR_object},
 }};
@@ -77,7 +80,7 @@ DXUpdateResponseTaskHelper::ErrorRecord* DXUpdateResponseTaskHelper::GetError() 
   const TRNIDOM_Node nodeTemp = TRNIDOM_Helper::findFirstElement(m_taskElement, STR_error);
   if (nodeTemp.isNull()) return nullptr;
   TRN_ASSERT(nodeTemp.getNodeType() == TRNIDOM_Node::ELEMENT_NODE);
-  SetError(TRNIDOM_Element(nodeTemp).getAttribute(STR_code), dxmd::firstText(nodeTemp).getNodeValue());
+  SetError(TRNIDOM_Element(nodeTemp).getAttribute(STR_code), firstText(nodeTemp).getNodeValue());
   return m_error.get();
 }
 
@@ -94,24 +97,25 @@ void DXUpdateResponseTaskHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& 
   elem.setAttribute(STR_status, ToString(m_status));
   for (const auto& [parameter, values] : m_parameters) {
     for (const I18NString& value : values)
-      dxmd::appendElement(elem, STR_param, STR_name, ToString(parameter)).setAttribute(STR_value, value);
+      appendElement(elem, STR_param, STR_name, ToString(parameter)).setAttribute(STR_value, value);
   }
-  if (m_error)
-    TRNIDOM_Helper::findOrCreateElementWithText(elem, STR_error, m_error->message)
-        .setAttribute(STR_code, m_error->code);
-  if (!m_feedback.isNull()) dxmd::appendImported(elem, m_feedback);
+  if (m_error) appendElementWithText(elem, STR_error, m_error->message).setAttribute(STR_code, m_error->code);
+  if (!m_feedback.isNull()) appendImported(elem, m_feedback);
 }
 
 void DXUpdateResponseTaskHelper::doTake(TRNIDOM_Element& elem) {
+  take(elem, TRNIDOM_Helper::findFirstElement(elem, STR_feedback));
+}
+
+void DXUpdateResponseTaskHelper::take(const TRNIDOM_Element& elem, const TRNIDOM_Node& nodeTemp) {
   m_taskElement = elem;
-  const TRNIDOM_Node nodeTemp = TRNIDOM_Helper::findFirstElement(elem, STR_feedback);
   if (nodeTemp.isNull()) return;
   TRN_ASSERT(nodeTemp.getNodeType() == TRNIDOM_Node::ELEMENT_NODE);
   m_feedback = nodeTemp;
 }
 
 void DXUpdateResponseTaskHelper::parseParameters() {
-  for (const TRNIDOM_Node nodeTemp : m_taskElement.getElementsByTagName(STR_param)) {
+  for (const TRNIDOM_Node& nodeTemp : DescendantElements(m_taskElement, STR_param)) {
     TRN_ASSERT(nodeTemp.getNodeType() == TRNIDOM_Node::ELEMENT_NODE);
     const TRNIDOM_Element param = nodeTemp;
     const EParameter eParam = ToParameter(param.getAttribute(STR_name));
@@ -140,15 +144,17 @@ DXUpdateResponseTaskHelper* DXUpdateObjectResponseHelper::GetTask(DXUpdateReques
 
 void DXUpdateObjectResponseHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const {
   elem = doc.createElement(STR_updateObjectResponse);
-  TRNIDOM_Element tasks = dxmd::appendElement(elem, STR_tasks);
-  for (const DXUpdateResponseTaskHelper* task : m_tasks) dxmd::appendMade(tasks, doc, *task);
+  const TRNIDOM_Element tasks = appendElement(elem, STR_tasks);
+  for (const DXUpdateResponseTaskHelper* task : m_tasks) appendMade(tasks, doc, *task);
 }
 
 void DXUpdateObjectResponseHelper::doTake(TRNIDOM_Element& elem) {
-  for (TRNIDOM_Element task : elem.getElementsByTagName(STR_task)) {
-    const auto eTask = DXUpdateRequestTaskHelper::ToTask(task.getAttribute(STR_name));
+  enum Name { kTask, kFeedback };
+  const Descendants all(elem, {STR_task, STR_feedback});
+  for (const auto& task : all.below(all.root(), kTask)) {
+    const auto eTask = DXUpdateRequestTaskHelper::ToTask(task.element.getAttribute(STR_name));
     TRN_ASSERT(eTask != DXUpdateRequestTaskHelper::kTaskUnknown);
-    const auto eStatus = ToStatus(task.getAttribute(STR_status));
-    m_tasks.emplace(eTask, eStatus)->doTake(task);
+    const auto eStatus = ToStatus(task.element.getAttribute(STR_status));
+    m_tasks.emplace(eTask, eStatus)->take(task.element, all.below(task, kFeedback).first());
   }
 }

@@ -13,6 +13,7 @@
 #include <dxmd/updateobject/DXUpdateRequestTaskHelper.h>
 
 class DXActionFeedbackHelper;
+class DXUpdateObjectResponseHelper;
 
 /// What became of one task of an update-object request: its status, the properties or objects it touched, an optional
 /// error and optional feedback.
@@ -75,6 +76,10 @@ class DXMD_API DXUpdateResponseTaskHelper : public ActionHandlerBase {
   void doTake(TRNIDOM_Element& elem) override;
 
  private:
+  friend class DXUpdateObjectResponseHelper;
+
+  // What `doTake` does, with the first "feedback" below the task, or null.
+  void take(const TRNIDOM_Element& elem, const TRNIDOM_Node& feedback);
   void parseParameters();
 
   const DXUpdateRequestTaskHelper::ETask m_task;

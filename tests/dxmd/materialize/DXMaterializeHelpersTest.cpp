@@ -42,7 +42,7 @@ TEST(DXMaterializeRequestHelper, WritesTasksDataSourceParametersAndResultSet) {
   request.AddTask(Request::kTaskLoadDataFromFile);
   request.AddTask(Request::kTaskMaterializeResultSet);
   request.AddTask(Request::kTaskLoadDataFromFile);
-  const I18NString type("T"), database("D"), connection("C"), ignored("I"), user("U"), password(""), ticket("S");
+  I18NString type("T"), database("D"), connection("C"), ignored("I"), user("U"), password(""), ticket("S");
   request.SetTargetDataSource({&type, &database, &connection, &ignored, &user, &password, &ticket});
   request.AddParameter(Request::kParamObjectID, "o");
   request.AddParameter(Request::kParamTableName, "replaced");
@@ -93,17 +93,19 @@ TEST(DXMaterializeRequestHelper, GivenFieldsReplaceAndNullOnesKeep) {
   Request request;
   EXPECT_EQ("-|-|-|-|-|-|-|", fields(request));
   {
-    const I18NString password("secret"), user("old");
+    I18NString password("secret"), user("old");
     Request::TargetDataSource source;
     source.password = &password;
     source.userName = &user;
     request.SetTargetDataSource(source);
-    const I18NString newUser("new");
+    I18NString newUser("new");
     source = Request::TargetDataSource();
     source.userName = &newUser;
     request.SetTargetDataSource(source);
   }
   EXPECT_EQ("-|-|-|-|new|secret|-|", fields(request));
+  I18NString* password = request.GetTargetDataSourceInfo().password;
+  EXPECT_EQ("secret", *password);
   request.SetTargetDataSource(request.GetTargetDataSourceInfo());
   EXPECT_EQ("-|-|-|-|new|secret|-|", fields(request));
 }
@@ -121,7 +123,7 @@ TEST(DXMaterializeRequestHelper, ReadsTheFirstDataSourceWhileNoneIsSet) {
             made(*request));
 
   const auto filled = taken<Request>(received);
-  const I18NString user("U");
+  I18NString user("U");
   Request::TargetDataSource source;
   source.userName = &user;
   filled->SetTargetDataSource(source);
@@ -191,4 +193,22 @@ TEST(DXMaterializeHelpers, NoTreeCrashesTheReaders) {
     I18NString text;
     response.GetResponse(Request::kTaskGenLoadDataFromFile, text);
   });
+}
+
+TEST(DXMaterializeRequestHelper, TasksNestedAHundredThousandDeepAreRead) {
+  TRNIDOM_Document document = newDocument();
+  TRNIDOM_Element root = document.createElement("r");
+  TRNIDOM_Node innermost = root;
+  for (int depth = 0; depth < 100'000; ++depth) innermost = innermost.appendChild(document.createElement("task"));
+  innermost.appendChild(document.createTextNode("loadDataFromFile"));
+  Request request;
+  request.Take(root);
+  ASSERT_EQ(100'000U, request.GetTasks().size());
+  EXPECT_EQ(Request::kTaskUnknown, request.GetTasks().front());
+  EXPECT_EQ(Request::kTaskLoadDataFromFile, request.GetTasks().back());
+  EXPECT_EQ("-|-|-|-|-|-|-|", fields(request));
+  DXMaterializeResponseHelper response;
+  response.Take(root);
+  I18NString text;
+  EXPECT_FALSE(response.GetResponse(Request::kTaskLoadDataFromFile, text));
 }

@@ -55,6 +55,17 @@ TEST(RetargetObjectReferences, AnEntryMayHaveNoItems) {
   EXPECT_EQ("old(new:) ", entriesOf(retarget));
 }
 
+TEST(RetargetObjectReferences, ItemsMayBeGivenInBraces) {
+  Retarget retarget;
+  TRNIDOM_Element element = madeElement(retarget);
+  retarget.addEntry("a", "none", {});
+  retarget.addEntry("a", "one", {{"i", 1}});
+  retarget.addEntry("a", "two", {{"i", 1}, {"j", 0}});
+  retarget.addEntry("a", "item", {"i", 1});
+  retarget.addEntry("a", {"info", {{"i", 1}}});
+  EXPECT_EQ("a(none:)(one:i1,)(two:i1,j0,)(item:i1,)(info:i1,) ", entriesOf(retarget));
+}
+
 TEST(RetargetObjectReferences, MergesIntoADocumentTakenAndIntoWhatTheCallerMadeOfIt) {
   Retarget retarget;
   TRNIDOM_Element element = parsed(

@@ -63,6 +63,25 @@ TEST(DXModelAnalysisRequestHelper, ReadsChecksAndObjectsOfAnyDepth) {
   EXPECT_EQ((std::vector<I18NString>{"a", "b"}), task.GetObjects());
 }
 
+TEST(DXModelAnalysisRequestHelper, TasksNestedAHundredThousandDeepAreReadInOneWalk) {
+  TRNIDOM_Document document = newDocument();
+  TRNIDOM_Element root = document.createElement("r");
+  TRNIDOM_Node innermost = root;
+  for (int depth = 0; depth < 100'000; ++depth) {
+    TRNIDOM_Element task = document.createElement("task");
+    task.setAttribute("name", "doSpecifiedChecks");
+    innermost = innermost.appendChild(task);
+  }
+  TRNIDOM_Element object = document.createElement("object");
+  object.setAttribute("id", "deep");
+  innermost.appendChild(object);
+  Request request;
+  request.Take(root);
+  ASSERT_EQ(100'000U, request.GetTasks().size());
+  for (const Task* task : {request.GetTasks().front(), request.GetTasks().back()})
+    EXPECT_EQ(std::vector<I18NString>{"deep"}, task->GetObjects());
+}
+
 TEST(DXModelAnalysisRequestHelper, WhatWasReadBeforeARefusalStays) {
   const auto failsWith = [](const std::string& text, const std::string& tasks) {
     TRNIDOM_Element element = parsed("<r>" + tasks + "</r>");

@@ -16,9 +16,8 @@ std::string updateOf(const std::string& subjects) {
 TEST(QFUpdateCommandHelper, WritesSubjectsBehindTheModelPathInOrder) {
   QFUpdateCommandHelper command("m");
   expectXml(updateOf(""), made(command));
-  command.AddUpdateSubject("b", "1 < 2");
-  command.AddUpdateSubject("a", "");
-  command.AddUpdateSubject("b", "1 < 2");
+  const QFUpdateCommandHelper::UpdateSubj subjects[] = {{"b", "1 < 2"}, {"a", ""}, {"b", "1 < 2"}};
+  for (const auto& subject : subjects) command.AddUpdateSubject(subject.name, subject.text);
   const std::string expected =
       updateOf(R"(<updateSubject name="b">1 &lt; 2</updateSubject><updateSubject name="a"></updateSubject>)"
                R"(<updateSubject name="b">1 &lt; 2</updateSubject>)");

@@ -1,5 +1,8 @@
 #include <dxmd/queryservice/QsDataSourceFaultHelper.h>
 
+#include <utility>
+#include <vector>
+
 #include "TestSupport.h"
 
 using namespace dxmd_test;
@@ -147,7 +150,37 @@ TEST(QsDataSourceFaultHelper, DataSourceWithoutNameMatchesNoneNotEvenTheEmpty) {
 TEST(QsDataSourceFaultHelper, UnknownConnectionNameGivesTheLast) {
   DataSourceInfo info;
   EXPECT_EQ(nullptr, info.GetConnectionInfo("c"));
-  for (const char* name : {"a", "b", "b", "c"}) info.connections.emplace()->name = name;
+  for (const char* name : {"a", "b", "b", "c"}) {
+    info.connections.push_back(new QsDataSourceFaultHelper::ConnectionInfo);
+    info.connections.back()->name = name;
+  }
   EXPECT_EQ(info.connections[1], info.GetConnectionInfo("b"));
   EXPECT_EQ(info.connections[3], info.GetConnectionInfo("unknown"));
+}
+
+TEST(QsDataSourceFaultHelper, RecordsAreVectorsThatTheirOwnerDeletes) {
+  const auto helper = taken<QsDataSourceFaultHelper>(
+      R"(<f><dataSource><name value="d"/><connection><name value="c"/><signon><name value="s"/></signon></connection>)"
+      R"(</dataSource></f>)");
+  DataSourceInfo info;
+  EXPECT_TRUE(helper->GetDataSourceInfo("d", info));
+  std::vector<ConnectionInfo*>& connections = info.connections;
+  EXPECT_EQ("s", connections.front()->signons.at(0)->name);
+  connections.front()->signons.push_back(new QsDataSourceFaultHelper::SignonInfo{"own", ""});
+  DataSourceInfo other;
+  EXPECT_TRUE(helper->GetDataSourceInfo("d", other));
+  other = std::move(info);
+  const DataSourceInfo last(std::move(other));
+  EXPECT_EQ("own", last.connections.front()->signons.back()->name);
+}
+
+TEST(QsDataSourceFaultHelper, DataSourcesNestedAHundredThousandDeepAreReadInOneWalk) {
+  TRNIDOM_Document document = newDocument();
+  TRNIDOM_Element root = document.createElement("f");
+  TRNIDOM_Node innermost = root;
+  for (int depth = 0; depth < 100'000; ++depth) innermost = innermost.appendChild(document.createElement("dataSource"));
+  QsDataSourceFaultHelper helper;
+  helper.Take(root);
+  DataSourceInfo info;
+  EXPECT_FALSE(helper.GetDataSourceInfo("d", info));
 }

@@ -2,9 +2,12 @@
 
 #include <dxmd/updateobject/DXActionFeedbackHelper.h>
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
+
+#include <trnidom/TRNIDOM_Helper.h>
 
 #include "RandomTrees.h"
 #include "TestSupport.h"
@@ -157,6 +160,9 @@ TEST(DXUpdateObjectResponseHelper, NoTreeCrashesTheReader) {
                         {"addObject", "removeObject", "success", "property", "object"}};
   feedRandomTrees(words, [](TRNIDOM_Element& element) {
     DXUpdateObjectResponseHelper response(element);
+    const TRNIDOM_NodeList tasks = element.getElementsByTagName("task");
+    for (std::size_t i = 0; i < tasks.getLength(); ++i)
+      EXPECT_EQ(TRNIDOM_Helper::findFirstElement(tasks.item(i), "feedback"), response.GetTasks()[i]->GetFeedback());
     for (Task* task : response.GetTasks()) {
       task->GetError();
       rendered(*task);
@@ -165,4 +171,33 @@ TEST(DXUpdateObjectResponseHelper, NoTreeCrashesTheReader) {
     }
     madeElement(response);
   });
+}
+
+TEST(DXUpdateObjectResponseHelper, TasksNestedAHundredThousandDeepAreReadInOneWalk) {
+  TRNIDOM_Document document = newDocument();
+  TRNIDOM_Element root = document.createElement("r");
+  TRNIDOM_Node innermost = root;
+  for (int depth = 0; depth < 100'000; ++depth) {
+    TRNIDOM_Element task = document.createElement("task");
+    task.setAttribute("name", "addObject");
+    innermost = innermost.appendChild(task);
+  }
+  const DXUpdateObjectResponseHelper without(root);
+  EXPECT_TRUE(without.GetTasks().front()->GetFeedback().isNull());
+
+  TRNIDOM_Node feedback = innermost.getParentNode().appendChild(document.createElement("feedback"));
+  const DXUpdateObjectResponseHelper with(root);
+  ASSERT_EQ(100'000U, with.GetTasks().size());
+  EXPECT_EQ(feedback, with.GetTasks().front()->GetFeedback());
+  EXPECT_TRUE(with.GetTasks().back()->GetFeedback().isNull()) << "it is no part of the innermost task";
+}
+
+TEST(DXUpdateObjectResponseHelper, TasksBeforeARefusedOneHaveFeedbackThatFollowsIt) {
+  TRNIDOM_Element element =
+      parsed("<r><task name='addObject'><task name='odd'/><feedback/></task><task name='addObject'/></r>");
+  DXUpdateObjectResponseHelper response;
+  expectAssert("TRN_ASSERT(eTask != DXUpdateRequestTaskHelper::kTaskUnknown);", "DXUpdateObjectResponseHelper",
+               [&] { response.Take(element); });
+  ASSERT_EQ(1U, response.GetTasks().size());
+  EXPECT_FALSE(response.GetTasks()[0]->GetFeedback().isNull());
 }

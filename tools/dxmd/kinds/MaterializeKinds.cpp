@@ -24,7 +24,7 @@ const EnumTable<Request::EParameters> kParameters{Request::kParamDataFilePath, R
 
 struct Field {
   const char* key;
-  const I18NString* TargetDataSource::*text;
+  I18NString* TargetDataSource::*text;
 };
 
 constexpr Field kFields[] = {
@@ -37,7 +37,7 @@ void readTargetDataSource(JsonObject& json, Request& request) {
   for (const Field& field : kFields) {
     const JsonValue value = json.optional(field.key);
     if (!value) continue;
-    const I18NString text = value.text();
+    I18NString text = value.text();
     TargetDataSource source;
     source.*field.text = &text;
     request.SetTargetDataSource(source);
