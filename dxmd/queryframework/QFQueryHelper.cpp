@@ -2,11 +2,10 @@
 
 #include <algorithm>
 #include <memory>
-#include <unordered_set>
+#include <set>
 #include <utility>
 
 #include <trn/TRNUtConvert.h>
-#include <trnidom/TRNIDOM_Helper.h>
 
 #include <dxmd/core/Dom.h>
 #include <dxmd/core/EnumTexts.h>
@@ -15,6 +14,16 @@
 using namespace dxmd;
 
 namespace {
+
+// The search that makes names unique: the name itself, then followed by 1, 2 and so on, until one is not taken. After
+// as many attempts as there are items the last candidate is not looked at.
+template <typename IsTaken>
+I18NString firstFree(const I18NString& name, unsigned long number, std::size_t items, IsTaken isTaken) {
+  for (;; ++number) {
+    I18NString candidate = number == 0 ? name : name + TRNUtConvert::ulongCvt(number, 1, '0', 0, '+', '-');
+    if (number >= items || !isTaken(number, candidate)) return candidate;
+  }
+}
 
 constexpr EnumTexts<QFQueryDataItem::EAggregate, 9> kAggregates{
     {{QFQueryDataItem::kAggregateNone, STR_none},
@@ -41,14 +50,14 @@ constexpr EnumTexts<QFQueryHelper::EQueryHint, 4> kHints{
      {QFQueryHelper::kQueryHintMeasureRefiner, STR_measureRefiner},
      {QFQueryHelper::kQueryHintMaxRowsRetrieved, STR_maxRowsRetrieved}}};
 
-void makeDataItem(TRNIDOM_Element& selection, const QFQueryDataItem& item) {
+void makeDataItem(const TRNIDOM_Element& selection, const QFQueryDataItem& item) {
   TRNIDOM_Element dataItem = appendElement(selection, STR_dataItem, STR_name, item.name);
   if (item.sort != 0) dataItem.setAttribute(STR_sort, QFQueryDataItem::ToString(item.sort));
   if (item.aggregate != 0) dataItem.setAttribute(STR_aggregate, QFQueryDataItem::ToString(item.aggregate));
   if (item.rollupAggregate != 0)
     dataItem.setAttribute(STR_rollupAggregate, QFQueryDataItem::ToString(item.rollupAggregate));
-  TRNIDOM_Helper::findOrCreateElementWithText(dataItem, STR_expression, item.expression);
-  if (!item.tag.empty()) TRNIDOM_Helper::findOrCreateElementWithText(dataItem, STR_tag, item.tag);
+  appendElementWithText(dataItem, STR_expression, item.expression);
+  if (!item.tag.empty()) appendElementWithText(dataItem, STR_tag, item.tag);
 }
 
 }  // namespace
@@ -79,9 +88,32 @@ void QFQueryHelper::SetAutoSummary(int on) {
 
 QFQueryDataItem* QFQueryHelper::AddDataItem(const I18NString& name, const I18NString& expression) {
   auto item = std::make_unique<QFQueryDataItem>();
-  MakeUnique(m_dataItems.items(), name, item->name);
+  item->name = makeUnique(name);
   item->expression = expression;
   return m_dataItems.adopt(std::move(item));
+}
+
+// What MakeUnique does. The candidates that were taken before are remembered with the item that bears each, which is
+// looked at again, since the caller may have renamed it.
+I18NString QFQueryHelper::makeUnique(const I18NString& name) {
+  std::vector<Candidate> unremembered;
+  const auto found = m_takenNames.find(name);
+  std::vector<Candidate>& taken = found != m_takenNames.end() ? found->second : unremembered;
+  std::size_t number = 0;
+  while (number < taken.size() && taken[number].bearer->name == taken[number].name) ++number;
+
+  const std::vector<QFQueryDataItem*>& items = m_dataItems.items();
+  I18NString result = firstFree(name, number, items.size(), [&](std::size_t attempt, const I18NString& candidate) {
+    // The last item added is the likeliest to bear it.
+    const auto bearer = std::find_if(items.rbegin(), items.rend(),
+                                     [&](const QFQueryDataItem* item) { return item->name == candidate; });
+    if (bearer == items.rend()) return false;
+    taken.resize(attempt);
+    taken.push_back({candidate, *bearer});
+    return true;
+  });
+  if (!unremembered.empty()) m_takenNames.emplace(name, std::move(unremembered));
+  return result;
 }
 
 QFQueryDetailFilter* QFQueryHelper::AddDetailFilter(const I18NString& expression, QFQueryDetailFilter::EUse use) {
@@ -101,45 +133,41 @@ void QFQueryHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& element) cons
   element.setAttribute(STR_name, m_name);
   SetSource(element);
 
-  TRNIDOM_Element selection = TRNIDOM_Helper::findOrCreateElement(element, STR_selection);
-  selection.setAttribute(STR_autoSummary, toText(m_autoSummary != 0));
+  const TRNIDOM_Element selection = appendElement(element, STR_selection, STR_autoSummary, toText(m_autoSummary != 0));
   for (const QFQueryDataItem* item : m_dataItems) makeDataItem(selection, *item);
 
   if (!m_detailFilters.empty()) {
-    TRNIDOM_Element detailFilter = TRNIDOM_Helper::findOrCreateElement(element, STR_detailFilter);
+    const TRNIDOM_Element detailFilter = appendElement(element, STR_detailFilter);
     for (const QFQueryDetailFilter* item : m_detailFilters) {
-      TRNIDOM_Element filter =
+      const TRNIDOM_Element filter =
           appendElement(detailFilter, STR_filter, STR_use, QFQueryDetailFilter::ToString(item->use));
-      TRNIDOM_Helper::findOrCreateElementWithText(filter, STR_filterExpression, item->expression);
+      appendElementWithText(filter, STR_filterExpression, item->expression);
     }
   }
 
   if (!m_hints.empty()) {
-    TRNIDOM_Element queryHints = appendElement(element, STR_queryHints);
+    const TRNIDOM_Element queryHints = appendElement(element, STR_queryHints);
     for (const auto& [hint, value] : m_hints) appendValueElement(queryHints, ToString(hint), value);
   }
 }
 
 void QFQueryHelper::SetSource(TRNIDOM_Element& query) const {
-  TRNIDOM_Element source = TRNIDOM_Helper::findOrCreateElement(query, STR_source);
-  if (m_queryRef.empty()) {
-    TRNIDOM_Helper::findOrCreateElement(source, STR_model);
-  } else {
-    TRNIDOM_Helper::findOrCreateElement(source, STR_queryRef).setAttribute(STR_refQuery, m_queryRef);
-  }
+  const TRNIDOM_Element source = appendElement(query, STR_source);
+  if (m_queryRef.empty())
+    appendElement(source, STR_model);
+  else
+    appendElement(source, STR_queryRef, STR_refQuery, m_queryRef);
 }
 
 void MakeUnique(const std::vector<QFQueryDataItem*>& items, const I18NString& name, I18NString& result) {
-  I18NString candidate = name;
-  const auto bearsCandidate = [&](const QFQueryDataItem* item) { return item->name == candidate; };
-  if (std::any_of(items.begin(), items.end(), bearsCandidate)) {
-    // Names in use are gathered only now: most names are unique at once.
-    std::unordered_set<I18NString> names;
-    for (const QFQueryDataItem* item : items) names.insert(item->name);
-    for (unsigned long counter = 0; counter < items.size() && names.count(candidate) != 0;) {
-      ++counter;
-      candidate = name + TRNUtConvert::ulongCvt(counter, 1, '0', 0, '+', '-');
-    }
-  }
-  result = std::move(candidate);
+  std::set<I18NString> names;
+  result = firstFree(name, 0, items.size(), [&](unsigned long number, const I18NString& candidate) {
+    // Most names are free at once, and finding that out needs no set.
+    if (number == 0)
+      return std::any_of(items.begin(), items.end(),
+                         [&](const QFQueryDataItem* item) { return item->name == candidate; });
+    if (names.empty())
+      for (const QFQueryDataItem* item : items) names.insert(item->name);
+    return names.count(candidate) != 0;
+  });
 }

@@ -40,6 +40,7 @@ class DXMD_API QFQueryHelper : public ActionHandlerBase {
   void SetAutoSummary(int on);
 
   /// Appends a data item whose name is made unique among those present, and returns it for the caller to complete.
+  /// A caller that renames an item afterwards sees to its uniqueness itself; later additions respect the new name.
   QFQueryDataItem* AddDataItem(const I18NString& name, const I18NString& expression);
   const std::vector<QFQueryDataItem*>& GetDataItems() const { return m_dataItems.items(); }
 
@@ -60,9 +61,18 @@ class DXMD_API QFQueryHelper : public ActionHandlerBase {
   virtual void SetSource(TRNIDOM_Element& query) const;
 
  private:
+  // A name that was tried, and an item that bore it then.
+  struct Candidate {
+    I18NString name;
+    const QFQueryDataItem* bearer;
+  };
+
+  I18NString makeUnique(const I18NString& name);
+
   I18NString m_name;
   int m_autoSummary = 0;
   dxmd::OwnedList<QFQueryDataItem> m_dataItems;
+  std::map<I18NString, std::vector<Candidate>> m_takenNames;  // by the name asked for, in the order tried
   dxmd::OwnedList<QFQueryDetailFilter> m_detailFilters;
   std::map<EQueryHint, I18NString> m_hints;
   I18NString m_queryRef;

@@ -103,6 +103,30 @@ TEST(MakeUnique, SeesNamesThatTheCallerChanged) {
   EXPECT_EQ("b1", query.AddDataItem("b", "")->name);
 }
 
+TEST(QFQueryHelper, AddsEqualNamesAsMakeUniqueHasItAlsoAfterRenames) {
+  const auto add = [](QFQueryHelper& query, const char* name) {
+    I18NString expected;
+    MakeUnique(query.GetDataItems(), name, expected);
+    QFQueryDataItem* item = query.AddDataItem(name, "");
+    EXPECT_EQ(expected, item->name);
+    return item;
+  };
+  QFQueryHelper query("q");
+  for (const char* name : {"a", "a", "a2", "a", "a", "a1", "a1"}) add(query, name);
+  query.GetDataItems()[1]->name = "z";  // frees a1
+  EXPECT_EQ("a1", add(query, "a")->name);
+  query.GetDataItems()[0]->name = "a5";  // frees a, takes a5
+  for (int i = 0; i < 5; ++i) add(query, "a");
+  for (QFQueryDataItem* item : query.GetDataItems()) item->name = "a";
+  EXPECT_EQ("a1", add(query, "a")->name);
+}
+
+TEST(QFQueryHelper, ThousandsOfEqualNamesAreNumbered) {
+  QFQueryHelper query("q");
+  for (int i = 0; i < 8'000; ++i) query.AddDataItem("total", "");
+  EXPECT_EQ("total7999", query.GetDataItems().back()->name);
+}
+
 TEST(QFJoinQueryHelper, WritesTwoOperandsAlsoForEqualCardinalities) {
   QFJoinQueryHelper query("J", "L", "1:N", "R", "1:N", "[L].[k] = [R].[k]");
   query.SetQueryRef("not used");
