@@ -2,6 +2,7 @@
 
 #include <trnidom/TRNIDOM_Helper.h>
 
+#include <dxmd/core/DXNamespaces.h>
 #include <dxmd/core/Dom.h>
 #include <dxmd/resources/Vocabulary.h>
 
@@ -9,8 +10,6 @@ using namespace dxmd;
 
 namespace {
 
-// Namespace of the query service's API schema; each deployment builds with its own.
-const I18NString kQueryServiceNamespace(DXMD_QUERY_SERVICE_NAMESPACE);
 const I18NString kSchemaInstanceNamespace("http://www.w3.org/2001/XMLSchema-instance");
 
 const I18NString STR_xmlns_xsi("xmlns:xsi");
@@ -79,7 +78,7 @@ void QFCommandHelper::MakeReportName(TRNIDOM_Element& parent, const I18NString& 
 
 void QFCommandHelper::Incorporate(TRNIDOM_Document& doc, TRNIDOM_Element& out, TRNIDOM_Element& inner) const {
   out = doc.createElement(STR_command);
-  out.setAttribute(STR_xmlns, kQueryServiceNamespace);
+  out.setAttribute(STR_xmlns, DXNamespaces::GetQueryService());
   out.setAttribute(STR_xmlns_xsi, kSchemaInstanceNamespace);
   if (!m_connection.isNull()) appendImported(out, m_connection);
   out.appendChild(inner);

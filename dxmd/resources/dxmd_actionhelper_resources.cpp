@@ -3,14 +3,13 @@
 #include <array>
 #include <atomic>
 #include <cstddef>
+#include <iterator>
 #include <memory>
 
 #include <trn/TRNThreadCriticalSection.h>
 #include <trn/TRNThreadGuard.h>
 
 namespace {
-
-constexpr std::size_t kEntryCount = 374;
 
 #define DXMD_ENTRY(index, identifier, text) index,
 constexpr long kIndices[] = {
@@ -31,11 +30,10 @@ constexpr bool indicesRunFromZero() {
   return true;
 }
 
-static_assert(std::size(kTexts) == kEntryCount, "an entry is missing from the vocabulary or stands in it twice");
-static_assert(indicesRunFromZero(), "an entry of the vocabulary is out of order");
+static_assert(indicesRunFromZero(), "an entry of the vocabulary is missing, stands in it twice or is out of order");
 
 // Zero-initialised: loading the library builds no entry. Entries are never freed.
-std::array<std::atomic<const I18NString*>, kEntryCount> entries;
+std::array<std::atomic<const I18NString*>, std::size(kTexts)> entries;
 
 TRNThreadCriticalSection dxmd_actionhelper_resources_lock(0);
 

@@ -12,7 +12,7 @@ namespace dxmd_actionhelper_resources {
 /// exception while it is built leaves the entry for a later call to build.
 ///
 /// Threads: safe from any number of threads at once.
-/// @param index  0 to 373; not checked.
+/// @param index  an entry of `vocabulary.def`; not checked.
 DXMD_API const I18NString& getString(long index);
 
 }  // namespace dxmd_actionhelper_resources

@@ -14,7 +14,11 @@ using dxmd_actionhelper_resources::getString;
 
 namespace {
 
-constexpr long kEntries = 374;
+#define DXMD_ENTRY(index, identifier, text) +1
+constexpr long kEntries =
+#include <dxmd/resources/vocabulary.def>
+    ;
+#undef DXMD_ENTRY
 
 }  // namespace
 

@@ -1,0 +1,47 @@
+#include <dxmd/core/DXNamespaces.h>
+
+#include <atomic>
+#include <memory>
+
+namespace {
+
+// What was set, on top of what was set before. Zero-initialised, so that it may be set while other libraries load.
+struct Setting {
+  I18NString uri;
+  const Setting* previous;
+};
+std::atomic<const Setting*> queryService;
+std::atomic<const Setting*> serviceBus;
+
+const I18NString kBuiltQueryService(DXMD_QUERY_SERVICE_NAMESPACE);
+const I18NString kBuiltServiceBus(DXMD_SERVICE_BUS_NAMESPACE);
+
+const I18NString& get(const std::atomic<const Setting*>& setting, const I18NString& built) {
+  const Setting* set = setting.load(std::memory_order_acquire);
+  return set != nullptr ? set->uri : built;
+}
+
+// Keeps what was set before: others may be reading it. That it hangs on to the new one keeps leak checkers quiet.
+void set(std::atomic<const Setting*>& setting, const I18NString& uri) {
+  auto next = std::make_unique<Setting>(Setting{uri, setting.load(std::memory_order_relaxed)});
+  while (!setting.compare_exchange_weak(next->previous, next.get(), std::memory_order_acq_rel)) continue;
+  next.release();
+}
+
+}  // namespace
+
+const I18NString& DXNamespaces::GetQueryService() {
+  return get(queryService, kBuiltQueryService);
+}
+
+void DXNamespaces::SetQueryService(const I18NString& uri) {
+  set(queryService, uri);
+}
+
+const I18NString& DXNamespaces::GetServiceBus() {
+  return get(serviceBus, kBuiltServiceBus);
+}
+
+void DXNamespaces::SetServiceBus(const I18NString& uri) {
+  set(serviceBus, uri);
+}

@@ -1,0 +1,62 @@
+#include <dxmd/core/DXNamespaces.h>
+
+#include <atomic>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <dxmd/queryframework/QFCloseConnectionsCommandHelper.h>
+
+#include "TestSupport.h"
+
+using namespace dxmd_test;
+
+namespace {
+
+std::string declaredBy(const QFCommandHelper& command) {
+  return madeElement(command).getAttribute("xmlns").toUtf8();
+}
+
+}  // namespace
+
+TEST(DXNamespaces, CommandsDeclareWhatIsSetWhenTheyAreMade) {
+  const I18NString before = DXNamespaces::GetQueryService();
+  const QFCloseConnectionsCommandHelper command;
+  EXPECT_EQ(before.toUtf8(), declaredBy(command));
+  DXNamespaces::SetQueryService("urn:other");
+  EXPECT_EQ("urn:other", declaredBy(command));
+  DXNamespaces::SetQueryService(before);
+  EXPECT_EQ(before.toUtf8(), declaredBy(command));
+}
+
+TEST(DXNamespaces, OneDoesNotChangeTheOther) {
+  const I18NString queryService = DXNamespaces::GetQueryService();
+  const I18NString bus = DXNamespaces::GetServiceBus();
+  DXNamespaces::SetServiceBus("urn:bus");
+  EXPECT_EQ("urn:bus", DXNamespaces::GetServiceBus());
+  EXPECT_EQ(queryService, DXNamespaces::GetQueryService());
+  DXNamespaces::SetServiceBus(bus);
+}
+
+TEST(DXNamespaces, AreReadWhileOthersSetThemAndStayValid) {
+  const I18NString& before = DXNamespaces::GetQueryService();
+  const std::string text = before.toUtf8();
+  std::atomic<bool> done{false};
+  std::vector<std::thread> readers;
+  for (int i = 0; i < 3; ++i)
+    readers.emplace_back([&] {
+      do {
+        const I18NString& uri = DXNamespaces::GetQueryService();
+        EXPECT_TRUE(uri == "urn:a" || uri == "urn:b" || uri == before);
+      } while (!done);
+    });
+  std::thread other([] {
+    for (int i = 0; i < 100; ++i) DXNamespaces::SetQueryService("urn:a");
+  });
+  for (int i = 0; i < 100; ++i) DXNamespaces::SetQueryService("urn:b");
+  other.join();
+  done = true;
+  for (std::thread& reader : readers) reader.join();
+  EXPECT_EQ(text, before.toUtf8());
+  DXNamespaces::SetQueryService(before);
+}

@@ -1,0 +1,13 @@
+// Part of every test program: expected documents name these, whatever the library was built for.
+
+#include <dxmd/core/DXNamespaces.h>
+
+namespace {
+
+const bool namespacesSet = [] {
+  DXNamespaces::SetQueryService("urn:dxmd:query-service:api:1");
+  DXNamespaces::SetServiceBus("urn:dxmd:service-bus:1");
+  return true;
+}();
+
+}  // namespace
