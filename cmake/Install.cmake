@@ -1,27 +1,35 @@
-# What `cmake --install` gives: libraries and headers, a CMake package and one pkg-config module per library. None of
+# What `cmake --install` gives: libraries and headers, two CMake packages, and one pkg-config module per library. None of
 # them names a place outside the prefix, which may be moved, nor a package that the libraries use inside.
 include(CMakePackageConfigHelpers)
 
-set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/DXMD_ActionHelper)
-install(TARGETS trn trnidom EXPORT TRNTargets FILE_SET HEADERS)
-install(TARGETS dxmd_actionhelper EXPORT DXMDTargets FILE_SET HEADERS)
-install(EXPORT TRNTargets NAMESPACE TRN:: DESTINATION ${package_dir})
-install(EXPORT DXMDTargets NAMESPACE DXMD:: DESTINATION ${package_dir})
-
-configure_package_config_file(cmake/DXMD_ActionHelperConfig.cmake.in DXMD_ActionHelperConfig.cmake
-  INSTALL_DESTINATION ${package_dir})
-write_basic_package_version_file(DXMD_ActionHelperConfigVersion.cmake COMPATIBILITY SameMajorVersion)
-install(FILES
-    ${CMAKE_CURRENT_BINARY_DIR}/DXMD_ActionHelperConfig.cmake
-    ${CMAKE_CURRENT_BINARY_DIR}/DXMD_ActionHelperConfigVersion.cmake
-  DESTINATION ${package_dir})
+# The CMake package of that name, which gives the targets in `export` their namespace.
+function(install_package name export namespace)
+  set(folder ${CMAKE_INSTALL_LIBDIR}/cmake/${name})
+  install(EXPORT ${export} NAMESPACE ${namespace}:: DESTINATION ${folder})
+  configure_package_config_file(cmake/${name}Config.cmake.in ${name}Config.cmake INSTALL_DESTINATION ${folder})
+  write_basic_package_version_file(${name}ConfigVersion.cmake COMPATIBILITY SameMajorVersion)
+  install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${name}Config.cmake ${CMAKE_CURRENT_BINARY_DIR}/${name}ConfigVersion.cmake
+    DESTINATION ${folder})
+endfunction()
 
 function(install_pkgconfig module library description requires)
   file(RELATIVE_PATH prefix ${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig ${CMAKE_INSTALL_PREFIX})
   configure_file(cmake/pkgconfig.pc.in ${module}.pc @ONLY)
   install(FILES ${CMAKE_CURRENT_BINARY_DIR}/${module}.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 endfunction()
-install_pkgconfig(trn-core TRNCore "Text, locks and assertion errors" "")
-install_pkgconfig(trn-idom TRNIDOM "Handles to XML documents" "trn-core = ${PROJECT_VERSION}")
-install_pkgconfig(dxmd-actionhelper DXMD_ActionHelper "${PROJECT_DESCRIPTION}"
-  "trn-idom = ${PROJECT_VERSION}, trn-core = ${PROJECT_VERSION}")
+
+if(NOT DXMD_SYSTEM_PLATFORM)
+  install(TARGETS trn trnidom EXPORT TRNTargets FILE_SET HEADERS)
+  install_package(TRN TRNTargets TRN)
+  install_pkgconfig(trn-core TRNCore "Text, locks and assertion errors" "")
+  install_pkgconfig(trn-idom TRNIDOM "Handles to XML documents" "trn-core = ${PROJECT_VERSION}")
+  set(platform_modules "trn-idom = ${PROJECT_VERSION}, trn-core = ${PROJECT_VERSION}")
+endif()
+
+install(TARGETS dxmd_actionhelper EXPORT DXMDTargets FILE_SET HEADERS)
+install_package(DXMD_ActionHelper DXMDTargets DXMD)
+install_pkgconfig(dxmd-actionhelper DXMD_ActionHelper "${PROJECT_DESCRIPTION}" "${platform_modules}")
+
+if(DXMD_BUILD_TOOL)
+  install(TARGETS dxmd)
+endif()

@@ -1,0 +1,14 @@
+#ifndef TRN_TRNREFERENCECOUNT_H
+#define TRN_TRNREFERENCECOUNT_H
+
+/// Base of objects shared through TRNSmartPointer. A copy starts a count of its own; assignment leaves the count as it
+/// is. Counting is safe from several threads at once.
+class TRNReferenceCount {
+ public:
+  TRNReferenceCount();
+  TRNReferenceCount(const TRNReferenceCount&);
+  TRNReferenceCount& operator=(const TRNReferenceCount&);
+  virtual ~TRNReferenceCount();
+};
+
+#endif
