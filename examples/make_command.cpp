@@ -6,6 +6,7 @@
 #include <trnidom/TRNIDOM_Element.h>
 #include <trnidom/TRNIDOM_Writer.h>
 
+#include <dxmd/core/DXNamespaces.h>
 #include <dxmd/queryframework/QFExecuteCommandHelper.h>
 #include <dxmd/queryservice/QsApiConnectHelper.h>
 
@@ -37,6 +38,8 @@ void addRevenueQuery(QFExecuteCommandHelper& command) {
 }  // namespace
 
 int main() {
+  DXNamespaces::SetQueryService("urn:dxmd:query-service:api:1");  // the deployment's own, once
+
   const I18NLocale locale("en");  // must live until `Make` has returned
   QFExecuteCommandHelper command("/content/package[@name='Sales']/model[@name='model']", &locale);
   addRevenueQuery(command);
