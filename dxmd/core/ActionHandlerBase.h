@@ -20,8 +20,8 @@ class DXMD_API ActionHandlerBase {
   ActionHandlerBase(const ActionHandlerBase&) = delete;
   ActionHandlerBase& operator=(const ActionHandlerBase&) = delete;
 
-  /// Writes the helper's XML. Most helpers hand back a new element, which belongs to a document of its own named
-  /// "requestDoc", by assigning it to `elem`; each helper says whether it does.
+  /// Writes the helper's XML, from what it holds. Most helpers hand back a new element, which belongs to a document of
+  /// its own named "requestDoc", by assigning it to `elem`; each helper says whether it does.
   void Make(TRNIDOM_Element& elem) const;
 
   /// Reads a received element. Each helper says what it needs, what it keeps and when it parses.

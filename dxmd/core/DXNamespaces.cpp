@@ -5,11 +5,13 @@
 
 namespace {
 
-// What was set, on top of what was set before. Zero-initialised, so that it may be set while other libraries load.
+// A stack of the URIs that were set, the current one on top. None is ever freed: callers have references to it.
 struct Setting {
   I18NString uri;
   const Setting* previous;
 };
+
+// Null until a URI is set. Zero-initialised, so that one may be set while other libraries load.
 std::atomic<const Setting*> queryService;
 std::atomic<const Setting*> serviceBus;
 
@@ -21,7 +23,6 @@ const I18NString& get(const std::atomic<const Setting*>& setting, const I18NStri
   return set != nullptr ? set->uri : built;
 }
 
-// Keeps what was set before: others may be reading it. That it hangs on to the new one keeps leak checkers quiet.
 void set(std::atomic<const Setting*>& setting, const I18NString& uri) {
   auto next = std::make_unique<Setting>(Setting{uri, setting.load(std::memory_order_relaxed)});
   while (!setting.compare_exchange_weak(next->previous, next.get(), std::memory_order_acq_rel)) continue;

@@ -11,7 +11,7 @@ Descendants::Descendants(const TRNIDOM_Element& root, std::initializer_list<Fixe
     : m_root{root, 0, 1}, m_found(names.size()) {
   if (!isElement(root)) return;
 
-  // Elements found that the walk is inside of.
+  // A stack of the found elements whose subtree the walk is in.
   struct Open {
     std::size_t depth;
     std::size_t name;

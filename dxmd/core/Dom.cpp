@@ -8,7 +8,7 @@ namespace dxmd {
 
 namespace {
 
-// Appending takes a handle that is not const. A copy of one stands for the same node.
+// `appendChild` is not const; a copy of the handle stands for the same node.
 TRNIDOM_Node append(TRNIDOM_Node parent, const TRNIDOM_Node& child) {
   return parent.appendChild(child);
 }

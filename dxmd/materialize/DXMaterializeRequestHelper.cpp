@@ -18,7 +18,7 @@ namespace {
 
 using Request = DXMaterializeRequestHelper;
 
-// Tasks are written and answered by these names, in which the materialise tasks share that of the generated load, ...
+// The names that tasks are written and answered by. The materialise tasks have the name of the generated load.
 constexpr EnumTexts<Request::ETasks, 4> kTaskNames{{
     {Request::kTaskGenLoadDataFromFile, STR_genLoadDataFromFile},
     {Request::kTaskLoadDataFromFile, STR_loadDataFromFile},
@@ -26,7 +26,7 @@ constexpr EnumTexts<Request::ETasks, 4> kTaskNames{{
     {Request::kTaskMaterializeResultSet, STR_genLoadDataFromFile},
 }};
 
-// ... but read by one text each.
+// The texts that tasks are read by, each its own.
 constexpr EnumTexts<Request::ETasks, 4> kReceivedTasks{{
     {Request::kTaskGenLoadDataFromFile, STR_genLoadDataFromFile},
     {Request::kTaskLoadDataFromFile, STR_loadDataFromFile},
@@ -110,6 +110,7 @@ void DXMaterializeRequestHelper::AddParameter(EParameters parameter, const I18NS
 
 bool DXMaterializeRequestHelper::GetParameter(EParameters parameter, I18NString& value) {
   if (!m_parameters.empty()) return false;
+  // Spelt as the assertion's text has it, which cannot fail: what has a tag name is an element.
   for (const TRNIDOM_Node& nodeTemp : DescendantElements(m_requestRoot, STR_param)) {
     TRN_ASSERT(nodeTemp.getNodeType() == TRNIDOM_Node::ELEMENT_NODE);
     const TRNIDOM_Element param = nodeTemp;
@@ -153,6 +154,7 @@ void DXMaterializeRequestHelper::doTake(TRNIDOM_Element& elem) {
 }
 
 void DXMaterializeRequestHelper::parseTargetDataSource() {
+  // Spelt as the assertion's text has it, which cannot fail: what has a tag name is an element.
   const TRNIDOM_Node nodeTemp = TRNIDOM_Helper::findFirstElement(m_requestRoot, STR_targetDataSource);
   if (nodeTemp.isNull()) return;
   TRN_ASSERT(nodeTemp.getNodeType() == TRNIDOM_Node::ELEMENT_NODE);

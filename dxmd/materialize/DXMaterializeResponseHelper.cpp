@@ -13,6 +13,7 @@ DXMaterializeResponseHelper::DXMaterializeResponseHelper() = default;
 DXMaterializeResponseHelper::~DXMaterializeResponseHelper() = default;
 
 bool DXMaterializeResponseHelper::GetResponse(DXMaterializeRequestHelper::ETasks task, I18NString& response) {
+  // Spelt as the assertion's text has it, which cannot fail: what has a tag name is an element.
   const TRNIDOM_Node nodeTemp =
       TRNIDOM_Helper::findFirstElement(m_responseRoot, DXMaterializeRequestHelper::GetTaskName(task));
   if (nodeTemp.isNull()) return false;

@@ -1,3 +1,5 @@
+// Holds both classes: an assertion names its source file, and those of the list name this one.
+
 #include <dxmd/modelactions/DXActionHelperDBConnection.h>
 
 #include <trn/TRNAssert.h>
@@ -27,6 +29,7 @@ DXActionHelperDBConnection::~DXActionHelperDBConnection() = default;
 void DXActionHelperDBConnection::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& domRequest) const {
   TRN_ASSERT(!m_connectionString.empty() && !m_database.empty());
 
+  // Elements are spelt as the assertions' texts have them. Those that ask for null cannot fail.
   domRequest = doc.createElement(k_dbConnection);
   TRN_ASSERT(!domRequest.isNull());
   doc.appendChild(domRequest);

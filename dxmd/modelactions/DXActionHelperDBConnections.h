@@ -24,7 +24,7 @@ class DXMD_API DXActionHelperDBConnections : public ActionHandlerBase {
   DXActionHelperDBConnections();
   ~DXActionHelperDBConnections() override;
 
-  /// Adds a "dbConnection" element. Nothing is checked; writing a null element fails.
+  /// Adds a "dbConnection" element. Nothing is checked: with a null one `Make` throws TRNIDOM_DOMException.
   void addDom(TRNIDOM_Element& dbConnection);
 
   /// The elements in the order added or read.

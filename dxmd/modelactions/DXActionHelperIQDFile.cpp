@@ -20,6 +20,7 @@ DXActionHelperIQDFile::DXActionHelperIQDFile() = default;
 DXActionHelperIQDFile::~DXActionHelperIQDFile() = default;
 
 void DXActionHelperIQDFile::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& domRequest) const {
+  // Elements are spelt as the assertions' texts have them. Those that ask for null cannot fail.
   domRequest = doc.createElement(k_file);
   TRN_ASSERT(!domRequest.isNull());
   doc.appendChild(domRequest);
@@ -27,7 +28,7 @@ void DXActionHelperIQDFile::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& domRe
   const TRNIDOM_Element filePathElem = appendElementWithText(domRequest, k_filePath, m_filePath);
   TRN_ASSERT(!filePathElem.isNull());
 
-  if (m_contents.empty()) TRN_ASSERT(false);
+  if (m_contents.empty()) TRN_ASSERT(false);  // its text is "false", whatever is asked
   const TRNIDOM_Element contents = appendElement(domRequest, k_contents);
   TRN_ASSERT(!contents.isNull());
   for (const I18NString& text : m_contents) {

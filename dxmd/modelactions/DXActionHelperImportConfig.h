@@ -56,6 +56,7 @@ class DXMD_API DXActionHelperImportConfig : public ActionHandlerBase {
 
  protected:
   /// @throws TRNAssertError for a null element and for one not named "source"; the one taken before is kept then.
+  /// The argument is spelt as the assertion's text has it.
   void doTake(TRNIDOM_Element& elmSourceConfig) override;
 
  private:

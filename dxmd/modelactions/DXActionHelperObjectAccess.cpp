@@ -42,7 +42,7 @@ DXActionHelperObjectAccess::EObjectAccessRule DXActionHelperObjectAccess::getObj
 }
 
 void DXActionHelperObjectAccess::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& domRequest) const {
-  domRequest = doc.createElement(STR_objectAccess);
+  domRequest = doc.createElement(STR_objectAccess);  // spelt as the assertion's text has it, which cannot fail
   TRN_ASSERT(!domRequest.isNull());
   doc.appendChild(domRequest);
   m_requestRoot = domRequest;
@@ -52,6 +52,8 @@ void DXActionHelperObjectAccess::addEntry(const DXActionHelperSecurityObject& ob
   if (object.cmSearchPath.empty()) return;
 
   if (!m_requestRoot.isNull()) {
+    // Elements are spelt as the assertions' texts have them, neither of which can fail.
+    //
     // What follows the child that was last is new: this tells created from found without a search of its own.
     const bool wasEmpty = !m_requestRoot.hasChildNodes();
     const TRNIDOM_Node lastBefore = m_requestRoot.getLastChild();

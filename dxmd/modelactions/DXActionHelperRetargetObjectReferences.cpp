@@ -15,7 +15,7 @@ DXActionHelperRetargetObjectReferences::DXActionHelperRetargetObjectReferences()
 DXActionHelperRetargetObjectReferences::~DXActionHelperRetargetObjectReferences() = default;
 
 void DXActionHelperRetargetObjectReferences::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& domRequest) const {
-  domRequest = doc.createElement(STR_retargetObjectReferences);
+  domRequest = doc.createElement(STR_retargetObjectReferences);  // spelt as the assertion's text has it
   TRN_ASSERT(!domRequest.isNull());
   doc.appendChild(domRequest);
   m_requestRoot = domRequest;
@@ -23,6 +23,7 @@ void DXActionHelperRetargetObjectReferences::doMake(TRNIDOM_Document& doc, TRNID
 
 void DXActionHelperRetargetObjectReferences::addEntry(const I18NString& currentRefValue, const I18NString& newRefValue,
                                                       const std::vector<ItemToUpdate>& itemsToUpdate) {
+  // Elements and the iterator are spelt as the assertions' texts have them.
   const TRNIDOM_Element entryElem =
       TRNIDOM_Helper::findOrCreateElementWithAttribute(m_requestRoot, STR_entry, STR_currentRefValue, currentRefValue);
   TRN_ASSERT(!entryElem.isNull());
@@ -59,7 +60,7 @@ void DXActionHelperRetargetObjectReferences::doTake(TRNIDOM_Element& elem) {
 }
 
 std::vector<DXActionHelperRetargetObjectReferences::Entry> DXActionHelperRetargetObjectReferences::getEntries() const {
-  const auto* const pLocaleThis = this;
+  const auto* const pLocaleThis = this;  // spelt as the assertion's text has it, as are the locals below
   TRN_ASSERT(!pLocaleThis->m_requestRoot.isNull() && !pLocaleThis->m_requestRoot.getOwnerDocument().isNull());
 
   enum Name { kEntry, kUpdateInfo, kItem };

@@ -1,3 +1,6 @@
+// Holds the principal, the list of views and the view: an assertion names its source file, and theirs name this one.
+// In all of it locals are spelt as the assertions' texts have them; what was just created is never null.
+
 #include <dxmd/modelactions/DXActionHelperSecurityObject.h>
 
 #include <trn/TRNAssert.h>

@@ -56,7 +56,8 @@ class DXMD_API DXActionHelperSecurityObjectSpec : public ActionHandlerBase {
   void addEntry(const DXActionHelperSecurityObject& object, const std::vector<ViewInfo>& views);
 
   /// The next principal of the element last taken, or null when there is none; its views, at any depth, are appended to
-  /// the caller's.
+  /// the caller's. Each view carries the texts of those nested in it, so that what nested views take grows with the
+  /// square of their depth.
   /// @throws TRNAssertError for a principal or view that cannot be read, and when what follows the principal is no
   ///         "securityObject", white space included.
   TRNSmartPointer<DXActionHelperSecurityObject> getEntry(std::vector<ViewInfo>& views);

@@ -28,6 +28,7 @@ class DXMD_API DXExternalizeReportHelper : public ActionHandlerBase {
 
   /// Takes ownership of an entry made with `new`, also when it throws std::bad_alloc.
   /// @throws TRNAssertError for a null pointer.
+  /// The argument is spelt as the assertion's text has it.
   void AddEntry(Entry* pEntry);
 
   /// The entries in the order added or read; they stay owned by the helper and live as long as it.

@@ -14,6 +14,7 @@
 /// Read: eagerly, every "package" at any depth, added to those already held.
 class DXMD_API DXPackagesReportHelper : public ActionHandlerBase {
  public:
+  // Misspelt in the interface, and so kept.
   static const I18NString kPacakgesRoot;  ///< "packages"
   static const I18NString kPacakgeEntry;  ///< "package"
   static const I18NString kDefaultName;   ///< "defaultName"

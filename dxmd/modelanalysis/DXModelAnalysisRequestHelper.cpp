@@ -1,3 +1,6 @@
+// Holds the task and the request: an assertion names its source file, and the task's name this one. In both, locals
+// are spelt as the assertions' texts have them.
+
 #include <dxmd/modelanalysis/DXModelAnalysisRequestHelper.h>
 
 #include <trn/TRNAssert.h>
@@ -34,7 +37,7 @@ constexpr EnumTexts<Task::ECheck, 9> kChecks{{
     {Task::kCheckCachingConflict, STR_cachingConflict},
 }};
 
-// What a request is read from.
+// Indices of the names in what `contentOf` gathers.
 enum Name { kTask, kCheck, kObject };
 
 Descendants contentOf(const TRNIDOM_Element& elem) {
@@ -42,7 +45,7 @@ Descendants contentOf(const TRNIDOM_Element& elem) {
 }
 
 void read(Task& task, const Descendants& all, const Descendants::Found& elem) {
-  constexpr auto kCheckUnknown = Task::kCheckUnknown;  // for the assertion's text
+  constexpr auto kCheckUnknown = Task::kCheckUnknown;  // spelt as the assertion's text has it
   for (const auto& check : all.below(elem, kCheck)) {
     const Task::ECheck eCheck = Task::ToCheck(check.element.getAttribute(STR_name));
     TRN_ASSERT(eCheck != kCheckUnknown);

@@ -1,3 +1,5 @@
+// Holds the response with its tasks, issues and objects, which write one document together.
+
 #include <dxmd/modelanalysis/DXModelAnalysisResponseHelper.h>
 
 #include <dxmd/core/Dom.h>
@@ -15,7 +17,7 @@ const I18NString STR_messages("messages");
 const I18NString STR_relatedObjects("relatedObjects");
 const I18NString STR_relatedObject("relatedObject");
 
-// What an object and a related one are known by.
+// Appends an element with the attributes that an object and a related object have in common.
 TRNIDOM_Element appendObject(const TRNIDOM_Element& parent, const I18NString& elementName, const I18NString& name,
                              const I18NString& id, const I18NString& className, const I18NString& path) {
   TRNIDOM_Element object = appendElement(parent, elementName, STR_name, name);

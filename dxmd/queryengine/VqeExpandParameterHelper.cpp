@@ -29,6 +29,7 @@ void VqeExpandParameterHelper::doTake(TRNIDOM_Element& elem) {
 I18NString VqeExpandParameterHelper::GetExpandedQuery() const {
   if (m_response.isNull()) return STR_empty;
   const TRNIDOM_NodeList resultList = m_response.getElementsByTagName(STR_expansionResult);
+  // `resultList` is spelt as the assertion's text has it.
   TRN_ASSERT(resultList.getLength() == 1 && resultList.item(0).getNodeType() == TRNIDOM_Node::ELEMENT_NODE &&
              resultList.item(0).getFirstChild().getNodeType() == TRNIDOM_Node::TEXT_NODE);
   return resultList.item(0).getFirstChild().getNodeValue();

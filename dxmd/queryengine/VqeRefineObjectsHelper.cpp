@@ -20,6 +20,7 @@ void VqeRefineObjectsHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem
 void VqeRefineObjectsHelper::addRequestObject(const I18NString& objectID) {
   TRN_ASSERT(!objectID.empty());
   TRN_ASSERT(!m_requestRoot.isNull());
+  // Spelt as the assertion's text has it, which cannot fail: what was created is not null.
   TRNIDOM_Element objElem = appendElement(m_requestRoot, STR_expression);
   TRN_ASSERT(!objElem.isNull());
   appendText(objElem, objectID);

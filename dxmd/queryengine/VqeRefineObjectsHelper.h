@@ -34,7 +34,9 @@ class DXMD_API VqeRefineObjectsHelper : public QFDXCommandHelper {
  protected:
   void doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const override;
 
-  /// @throws TRNAssertError when the response is null or its first "expression" is not a child of a "response".
+  /// @throws TRNAssertError when the response is null, which leaves the cursor where it was, or when its first
+  ///         "expression" is not a child of a "response"; the cursor then stands on that "expression", which
+  ///         `getResponseObject` gives all the same.
   void doTake(TRNIDOM_Element& domResponse) override;
 
  private:

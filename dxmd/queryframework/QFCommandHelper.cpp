@@ -15,7 +15,7 @@ const I18NString kSchemaInstanceNamespace("http://www.w3.org/2001/XMLSchema-inst
 const I18NString STR_xmlns_xsi("xmlns:xsi");
 const I18NString STR_reportName("reportName");
 
-// Points the connection of a command on metadata at the model query provider.
+// Rewrites the connection of a command that executes on metadata: type "MQP", data source named after the inner one.
 void rewriteForMetadata(TRNIDOM_Element& connection) {
   const TRNIDOM_Element inner = TRNIDOM_Helper::findFirstElement(connection, STR_connection);
   const I18NString name = TRNIDOM_Helper::findFirstElement(inner, STR_name).getAttribute(STR_value);

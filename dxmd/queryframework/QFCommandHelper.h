@@ -12,9 +12,9 @@
 
 /// Base of every command to the query framework service: the "command" envelope and what all commands share.
 ///
-/// Written: build and hand back. The envelope declares the service's namespaces and holds the connection, when one was
-/// set, then the command proper, then "commandID" and "requestID". Nothing is read.
-/// `Make` leaves the helper unchanged and may be called again. A helper is used by one thread at a time.
+/// Written: build and hand back. The envelope declares the query service's namespace (see DXNamespaces) and holds the
+/// connection, when one was set, then the command proper, then "commandID" and "requestID". Nothing is read. `Make`
+/// leaves the helper unchanged and may be called again. A helper is used by one thread at a time.
 class DXMD_API QFCommandHelper : public ActionHandlerBase {
  public:
   /// The identifiers of a command.
@@ -40,7 +40,10 @@ class DXMD_API QFCommandHelper : public ActionHandlerBase {
   /// Places a copy of a connection into a "command" element that is already built: as its first child, or in place of
   /// the connection it has. In a connection test the connection inside is the one replaced. A command that executes
   /// on metadata has its new connection rewritten: the type becomes "MQP", the data source the inner connection's name.
-  /// @throws TRNIDOM_DOMException when either element is null or the old connection is not where a command has it.
+  /// @throws TRNIDOM_DOMException when either element is null; `NOT_FOUND_ERR` when the old connection is no child of
+  /// the
+  ///         command; in a connection test `HIERARCHY_REQUEST_ERR` when the new connection has no inner one, and
+  ///         `NOT_FOUND_ERR` when the old one has none.
   static void AddConnection(TRNIDOM_Element& command, TRNIDOM_Element& connection);
 
   /// Finds or creates the child "modelPath" of the parent that holds the model path.

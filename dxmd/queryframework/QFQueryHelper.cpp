@@ -1,3 +1,5 @@
+// Holds the query with its records, data items and detail filters, which have little code of their own.
+
 #include <dxmd/queryframework/QFQueryHelper.h>
 
 #include <algorithm>

@@ -47,6 +47,7 @@ bool QFResponseDomHelper::GetQueryFeedback(QFExecuteCommandHelper::EQueryFeedbac
 }
 
 bool QFResponseDomHelper::ExtractRetrieveProperty(const I18NString& name, I18NString& value) const {
+  // Locals are spelt as the assertions' texts have them. That what has a tag name is an element cannot fail.
   const TRNIDOM_NodeList elmRevtiveProps = m_responseElement.getElementsByTagName(STR_queryFeedbackResult);
   if (elmRevtiveProps.item(0).isNull()) return false;
   TRN_ASSERT(elmRevtiveProps.item(0).getNodeType() == TRNIDOM_Node::ELEMENT_NODE);
@@ -61,6 +62,7 @@ bool QFResponseDomHelper::ExtractRetrieveProperty(const I18NString& name, I18NSt
 }
 
 void QFResponseDomHelper::GetResponseDataSources(std::vector<DataSource>& sources) const {
+  // Spelt as the assertions' texts have it, spaces included.
   const TRNIDOM_NodeList elmExtraProps = m_responseElement.getElementsByTagName(STR_queryFeedbackResult);
   if (elmExtraProps.item(0).isNull()) return;
   TRN_ASSERT(elmExtraProps.item(0).getNodeType() == TRNIDOM_Node::ELEMENT_NODE);
@@ -75,6 +77,7 @@ void QFResponseDomHelper::GetResponseDataSources(std::vector<DataSource>& source
 }
 
 void QFResponseDomHelper::GetColumnList(std::vector<std::map<EColumnProp, I18NString>>& columns) const {
+  // Spelt as the assertion's text has it, spaces included.
   const TRNIDOM_Node columnList = m_responseElement.getElementsByTagName(STR_columnList).item(0);
   const TRNIDOM_NodeList columnsList = columnList.getChildNodes();
   for (std::size_t idx = 0; idx < columnsList.getLength(); ++idx) {
@@ -87,6 +90,7 @@ void QFResponseDomHelper::GetColumnList(std::vector<std::map<EColumnProp, I18NSt
 }
 
 TRNIDOM_Element QFResponseDomHelper::GetFirstResultSetRow() const {
+  // Spelt as the assertion's text has it.
   const TRNIDOM_NodeList listRsltData = m_responseElement.getElementsByTagName(STR_resultData);
   if (listRsltData.item(0).isNull()) return TRNIDOM_Element();
   TRN_ASSERT(listRsltData.item(0).getNodeType() == TRNIDOM_Node::ELEMENT_NODE);

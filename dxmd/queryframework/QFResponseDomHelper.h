@@ -48,7 +48,8 @@ class DXMD_API QFResponseDomHelper : public ActionHandlerBase {
   /// @return whether there is one; `value` is untouched otherwise.
   bool GetQueryFeedback(QFExecuteCommandHelper::EQueryFeedback kind, I18NString& value) const;
 
-  /// Gives the text of the first query feedback property of that name that has any.
+  /// Gives the node value of the first child of the first query feedback property of that name that has a child. That
+  /// is the property's text, unless it begins with something else: an element's value is empty.
   /// @return whether there is one; `value` is untouched otherwise.
   bool ExtractRetrieveProperty(const I18NString& name, I18NString& value) const;
 

@@ -14,7 +14,7 @@ const I18NString STR_severity("severity");
 const I18NString STR_fatal("fatal");
 const I18NString STR_lineFeed("\n");
 
-// What a message makes of the severity so far.
+// The severity after a message of that severity text; the rules are not a ranking.
 TRNSeverity severityAfter(TRNSeverity before, const I18NString& message) {
   if (message == STR_fatal) return kSeverityFatal;
   if (message == STR_error && before != kSeverityFatal) return kSeverityError;

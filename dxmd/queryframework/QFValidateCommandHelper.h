@@ -19,7 +19,7 @@ class DXMD_API QFValidateCommandHelper : public QFCommandHelper {
   QFValidateCommandHelper();
   ~QFValidateCommandHelper() override;
 
-  /// Judges the messages of a response.
+  /// Judges the messages of a response. The name is the interface's, misspelt as it is.
   /// @param response  holds messages at any depth; may be null.
   /// @param severity  becomes `kSeverityNone`, then what the messages make of it one after the other: "fatal" and
   ///                  "information" always set it, "error" except after a fatal, "warning" except after an error. So

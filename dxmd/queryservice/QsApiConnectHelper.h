@@ -42,7 +42,10 @@ class DXMD_API QsApiConnectHelper : public ActionHandlerBase {
   /// The model path names the data source.
   void SetModelPath(const I18NString& path);
 
-  /// Sets any property. A key that is no element name makes `Make` fail.
+  /// Sets any property.
+  ///
+  /// A key that is no element name makes `Make` throw TRNIDOM_DOMException, except with an empty value, which is not
+  /// written.
   void AddProperty(const I18NString& key, const I18NString& value);
 
   void SetRetainConnection(bool retain);
@@ -60,7 +63,8 @@ class DXMD_API QsApiConnectHelper : public ActionHandlerBase {
   static I18NString MakeSessionID(const unsigned long& id);
 
   /// Updates passport and locales in a connection that is already built. An empty passport and null locales leave
-  /// theirs untouched.
+  /// theirs untouched; with nothing to update the connection may be null.
+  /// @throws TRNIDOM_DOMException for a null connection.
   static void RefreshRequest(TRNIDOM_Element& connection, const I18NString& passport, const I18NLocale* productLocale,
                              const I18NLocale* runLocale);
 

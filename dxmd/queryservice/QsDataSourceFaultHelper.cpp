@@ -43,7 +43,7 @@ void deleteAll(const std::vector<Record*>& records) noexcept {
   for (const Record* record : records) delete record;
 }
 
-// What records are read from.
+// Indices of the names in what `recordsBelow` gathers.
 enum Name { kDataSource, kConnection, kSignon, kName, kType, kSearchPath, kConnectionString };
 
 Descendants recordsBelow(const TRNIDOM_Element& root) {

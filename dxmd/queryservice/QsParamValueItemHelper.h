@@ -46,7 +46,7 @@ class DXMD_API QsParamValueItemHelper : public ActionHandlerBase {
   void doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const override;
 
   /// Keeps the element and reads "inclusive": only the text "false" clears it.
-  /// @throws TRNAssertError when the element is null.
+  /// @throws TRNAssertError when the element is null. Its argument is spelt as the assertion's text has it.
   void doTake(TRNIDOM_Element& elmValueItem) override;
 
   virtual EValueItem GetType() const = 0;

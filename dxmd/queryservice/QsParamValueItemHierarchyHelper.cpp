@@ -22,6 +22,7 @@ QsParamValueItemHierarchyHelper::~QsParamValueItemHierarchyHelper() {
 
 QsParamValueItemSimpleHelper* QsParamValueItemHierarchyHelper::GetValue() {
   if (m_value) return m_value.get();
+  // Locals are spelt as the assertions' texts have them, none of which can fail.
   TRNIDOM_Element nodeTemp = element().getElementsByTagName(STR_value).item(0);
   if (nodeTemp.isNull()) return nullptr;
   TRN_ASSERT(nodeTemp.getNodeType() == TRNIDOM_Node::ELEMENT_NODE);
@@ -42,6 +43,7 @@ const std::vector<QsParamValueItemHierarchyHelper*>& QsParamValueItemHierarchyHe
   OwnedList<QsParamValueItemHierarchyHelper> nodes;
   const TRNIDOM_Element subNodes = TRNIDOM_Helper::findChildElement(element(), STR_subNodes);
   for (TRNIDOM_Element& item : ChildElements(subNodes, STR_item)) {
+    // Spelt as the assertion's text has it, which cannot fail.
     std::unique_ptr<QsParamValueItemHelper> p(Create(STR_bus_hierarchicalParmValueItem, item));
     TRN_ASSERT(p->GetType() == kValueItemHierarchy);
     p->Take(item);

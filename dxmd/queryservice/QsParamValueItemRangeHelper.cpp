@@ -51,6 +51,7 @@ void QsParamValueItemRangeHelper::doMake(TRNIDOM_Document& doc, TRNIDOM_Element&
 
 std::unique_ptr<QsParamValueItemSimpleHelper> QsParamValueItemRangeHelper::readBound(const I18NString& busName,
                                                                                      const I18NString& name) const {
+  // Locals are spelt as the assertions' texts have them, none of which can fail.
   TRNIDOM_Element nodeTemp = element().getElementsByTagName(busName).item(0);
   if (nodeTemp.isNull()) nodeTemp = element().getElementsByTagName(name).item(0);
   if (nodeTemp.isNull()) return nullptr;

@@ -42,16 +42,17 @@ DXFeedbackEntry* DXFeedbackEntry::AddEntry(EEntryClass entryClass, const I18NStr
 
 void DXFeedbackEntry::doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const {
   elem = doc.createElement(STR_entry);
-  // Entries whose element stands in its place but is still bare. Each appends all its children's at once, so the order
-  // in which they are filled does not matter.
-  std::vector<std::pair<const DXFeedbackEntry*, TRNIDOM_Element>> bare{{this, elem}};
-  while (!bare.empty()) {
-    auto [entry, element] = std::move(bare.back());
-    bare.pop_back();
+  // Entries nest to any depth: a stack of those whose element is appended but has no content yet. All children of an
+  // entry are appended when it is filled, so that the order of filling does not show.
+  std::vector<std::pair<const DXFeedbackEntry*, TRNIDOM_Element>> unfilled{{this, elem}};
+  while (!unfilled.empty()) {
+    auto [entry, element] = std::move(unfilled.back());
+    unfilled.pop_back();
     element.setAttribute(STR_class, ToString(entry->m_entryClass));
     if (!entry->m_name.empty()) element.setAttribute(STR_name, entry->m_name);
     appendText(element, entry->m_text);
-    for (const DXFeedbackEntry* child : entry->m_children) bare.emplace_back(child, appendElement(element, STR_entry));
+    for (const DXFeedbackEntry* child : entry->m_children)
+      unfilled.emplace_back(child, appendElement(element, STR_entry));
   }
 }
 

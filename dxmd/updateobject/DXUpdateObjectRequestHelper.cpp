@@ -1,3 +1,6 @@
+// Holds the task and the request: an assertion names its source file, and the task's name this one. In both, locals
+// are spelt as the assertions' texts have them; that what has a tag name is an element cannot fail.
+
 #include <dxmd/updateobject/DXUpdateObjectRequestHelper.h>
 
 #include <cstddef>
@@ -111,7 +114,7 @@ void DXUpdateRequestTaskHelper::AddParameter(EParameter parameter, const TRNIDOM
 
 template <typename... Arguments>
 void DXUpdateRequestTaskHelper::addValue(EParameter parameter, const Arguments&... arguments) {
-  // No empty list is left when memory runs out: it would pass for one that was read.
+  // When memory runs out, no empty list stays in the map: parameters are parsed only while the map is empty.
   if (const auto found = m_parameters.find(parameter); found != m_parameters.end()) {
     found->second.emplace(arguments...);
     return;

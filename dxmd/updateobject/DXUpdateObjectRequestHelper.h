@@ -13,7 +13,8 @@
 /// A request to change a model, task by task: the "updateObjectRequest" document.
 ///
 /// Written: build and hand back. Read: eagerly, each "task" of any depth; tasks read are added to those already held
-/// and parse their parameters later, from the received document.
+/// and parse their parameters later, from the received document. `Make` then writes of each only what has been parsed:
+/// to pass a request on, also after a remapping of its IDs, send the received element.
 ///
 /// A helper is used by one thread at a time.
 class DXMD_API DXUpdateObjectRequestHelper : public ActionHandlerBase {

@@ -14,7 +14,8 @@
 /// The answer to an update-object request, task by task: the "updateObjectResponse" document.
 ///
 /// Written: build and hand back. Read: eagerly, each "task" of any depth; tasks read are added to those already held
-/// and parse parameters and errors later, from the received document.
+/// and parse parameters and errors later, from the received document. `Make` then writes of each only what has been
+/// parsed: to pass a response on, send the received element.
 ///
 /// A helper is used by one thread at a time.
 class DXMD_API DXUpdateObjectResponseHelper : public ActionHandlerBase {

@@ -15,7 +15,8 @@
 ///
 /// Written: build and hand back, parameters by ascending enumerator, the values of one parameter in the order added.
 /// Read: `Take` keeps the element; the first `GetParameter` parses it, but only while the task has no parameters, so
-/// that a task filled with `AddParameter` never reads a received one.
+/// that a task filled with `AddParameter` never reads a received one. `Make` writes what was added, or parsed so far,
+/// and not the received element: after a remapping it is the received element that is to be sent.
 ///
 /// The cursor, `GetNextIDParameters` and `UpdateCurrentIDParameters`, works on the received element itself: it reads
 /// the object IDs of one parameter after the other and writes mapped IDs back in their place.
@@ -99,7 +100,8 @@ class DXMD_API DXUpdateRequestTaskHelper : public ActionHandlerBase {
   /// @param locale  empty for none.
   void AddParameter(EParameter parameter, const I18NString& value, const I18NString& locale);
 
-  /// Appends a subtree, of any document, which is copied when the task is written.
+  /// Appends a subtree, of any document, which is copied when the task is written. A null element counts as an empty
+  /// plain value.
   void AddParameter(EParameter parameter, const TRNIDOM_Element& element);
 
   /// Replaces `values` by the parameter's values, which stay owned by the task, and returns true; without the
@@ -114,8 +116,8 @@ class DXMD_API DXUpdateRequestTaskHelper : public ActionHandlerBase {
   ETask GetTask() const { return m_task; }
 
   /// Moves the cursor to the next received "param" that carries object IDs and replaces `vIDs` by these: its "value",
-  /// or the texts of the "refobj" elements below it, of which one that does not begin with text adds nothing. Returns
-  /// false, leaving the cursor where it is, when there is none.
+  /// or the texts of the "refobj" elements below it, of which one that does not begin with text adds nothing. When
+  /// there is none, empties `vIDs`, leaves the cursor where it is and returns false.
   ///
   /// The value of a property carries IDs when a "propertyType" passed before it in an "addProperty" or
   /// "updateProperty" task says so.
@@ -144,7 +146,7 @@ class DXMD_API DXUpdateRequestTaskHelper : public ActionHandlerBase {
   // Whether the cursor stops at the "param"; remembers the type of property that passes.
   bool ContainsIDs(const TRNIDOM_Element& param);
 
-  TRNIDOM_Element idCrap_elmCurrIDParam;
+  TRNIDOM_Element idCrap_elmCurrIDParam;  // the cursor, spelt as an assertion's text has it
   I18NString m_currentPropertyType;
   const ETask m_task;
   TRNIDOM_Element m_taskElement;

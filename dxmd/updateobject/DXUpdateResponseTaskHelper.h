@@ -20,7 +20,8 @@ class DXUpdateObjectResponseHelper;
 ///
 /// Written: build and hand back, parameters by ascending enumerator, the values of one parameter in the order added,
 /// then the error, then the feedback. Read: `Take` keeps the element and its feedback; the first `GetParameter` parses
-/// parameters, but only while the task has none, and `GetError` the error, but only while the task has none.
+/// parameters, but only while the task has none, and `GetError` the error, but only while the task has none. `Make`
+/// writes what was added, or parsed so far, and not the received element.
 ///
 /// A task is used by one thread at a time.
 class DXMD_API DXUpdateResponseTaskHelper : public ActionHandlerBase {

@@ -139,6 +139,15 @@ TEST(AddConnection, RewritesConnectionOfAMetadataCommand) {
                            R"(<connection><dataSource value="x"/><dataSourceType value="y"/></connection>)"));
 }
 
+TEST(AddConnection, AConnectionTestNeedsAnInnerConnection) {
+  try {
+    withConnection("<command><connection><connection/></connection><testConnection/></command>", "<connection/>");
+    ADD_FAILURE() << "nothing was thrown";
+  } catch (const TRNIDOM_DOMException& error) {
+    EXPECT_EQ(TRNIDOM_DOMException::HIERARCHY_REQUEST_ERR, error.code());
+  }
+}
+
 TEST(AddConnection, DomExceptionsReachTheCaller) {
   // The old connection does not stand where replaceChild can reach it.
   EXPECT_THROW(withConnection("<command><x><connection/></x></command>", "<connection/>"), TRNIDOM_DOMException);
