@@ -25,6 +25,17 @@ TRNIDOM_Element parsed(const std::string& xml) {
   return TRNIDOM_Parser::parseString(xml).getDocumentElement();
 }
 
+TRNIDOM_Element nestedDeep(const I18NString& elementName, const I18NString& name, TRNIDOM_Element& innermost) {
+  TRNIDOM_Document document = newDocument();
+  TRNIDOM_Element root = document.createElement("r");
+  innermost = root;
+  for (int depth = 0; depth < 100'000; ++depth) {
+    innermost = innermost.appendChild(document.createElement(elementName));
+    if (!name.empty()) innermost.setAttribute("name", name);
+  }
+  return root;
+}
+
 std::string xmlOf(const TRNIDOM_Node& node) {
   return TRNIDOM_Writer::toString(node);
 }

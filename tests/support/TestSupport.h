@@ -22,6 +22,11 @@ TRNIDOM_Document newDocument();
 /// The document element of the parsed text.
 TRNIDOM_Element parsed(const std::string& xml);
 
+/// A new "r" with elements nested in each other, a hundred thousand deep.
+/// @param name       the attribute "name" of each; none when empty.
+/// @param innermost  becomes the last of them.
+TRNIDOM_Element nestedDeep(const I18NString& elementName, const I18NString& name, TRNIDOM_Element& innermost);
+
 /// The node as compact XML.
 std::string xmlOf(const TRNIDOM_Node& node);
 

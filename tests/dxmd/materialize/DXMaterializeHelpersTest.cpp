@@ -196,11 +196,9 @@ TEST(DXMaterializeHelpers, NoTreeCrashesTheReaders) {
 }
 
 TEST(DXMaterializeRequestHelper, TasksNestedAHundredThousandDeepAreRead) {
-  TRNIDOM_Document document = newDocument();
-  TRNIDOM_Element root = document.createElement("r");
-  TRNIDOM_Node innermost = root;
-  for (int depth = 0; depth < 100'000; ++depth) innermost = innermost.appendChild(document.createElement("task"));
-  innermost.appendChild(document.createTextNode("loadDataFromFile"));
+  TRNIDOM_Element innermost;
+  TRNIDOM_Element root = nestedDeep("task", "", innermost);
+  innermost.appendChild(root.getOwnerDocument().createTextNode("loadDataFromFile"));
   Request request;
   request.Take(root);
   ASSERT_EQ(100'000U, request.GetTasks().size());

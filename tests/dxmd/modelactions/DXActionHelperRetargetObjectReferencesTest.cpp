@@ -99,10 +99,8 @@ TEST(RetargetObjectReferences, PartsAreReadAtAnyDepthByEveryPartAroundThem) {
 }
 
 TEST(RetargetObjectReferences, EntriesNestedAHundredThousandDeepAreReadInOneWalk) {
-  TRNIDOM_Element root = newDocument().createElement("r");
-  TRNIDOM_Element inner = root;
-  for (int depth = 0; depth < 100'000; ++depth)
-    inner = inner.appendChild(inner.getOwnerDocument().createElement("entry"));
+  TRNIDOM_Element inner;
+  TRNIDOM_Element root = nestedDeep("entry", "", inner);
   TRNIDOM_Element info = inner.getOwnerDocument().createElement("updateInfo");
   info.setAttribute("newRefValue", "n");
   inner.appendChild(info);

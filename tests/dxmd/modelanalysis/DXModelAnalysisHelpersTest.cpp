@@ -64,15 +64,9 @@ TEST(DXModelAnalysisRequestHelper, ReadsChecksAndObjectsOfAnyDepth) {
 }
 
 TEST(DXModelAnalysisRequestHelper, TasksNestedAHundredThousandDeepAreReadInOneWalk) {
-  TRNIDOM_Document document = newDocument();
-  TRNIDOM_Element root = document.createElement("r");
-  TRNIDOM_Node innermost = root;
-  for (int depth = 0; depth < 100'000; ++depth) {
-    TRNIDOM_Element task = document.createElement("task");
-    task.setAttribute("name", "doSpecifiedChecks");
-    innermost = innermost.appendChild(task);
-  }
-  TRNIDOM_Element object = document.createElement("object");
+  TRNIDOM_Element innermost;
+  TRNIDOM_Element root = nestedDeep("task", "doSpecifiedChecks", innermost);
+  TRNIDOM_Element object = root.getOwnerDocument().createElement("object");
   object.setAttribute("id", "deep");
   innermost.appendChild(object);
   Request request;

@@ -68,10 +68,9 @@ TEST(VqeGetJoinPathsHelper, ResponseThatIsNoElementHoldsNothing) {
 
 // Every path contains all paths after it, and the innermost one a join.
 TEST(VqeGetJoinPathsHelper, DeeplyNestedPathsCostOneWalk) {
-  TRNIDOM_Document document = newDocument();
-  TRNIDOM_Element response = document.createElement("response");
-  TRNIDOM_Node innermost = response;
-  for (int depth = 0; depth < 100000; ++depth) innermost = innermost.appendChild(document.createElement("joinPath"));
+  TRNIDOM_Element innermost;
+  TRNIDOM_Element response = nestedDeep("joinPath", "", innermost);
+  TRNIDOM_Document document = response.getOwnerDocument();
   innermost.appendChild(document.createElement("join")).appendChild(document.createTextNode("deep"));
   VqeGetJoinPathsHelper command("m");
   command.Take(response);

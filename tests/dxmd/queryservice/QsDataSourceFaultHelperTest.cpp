@@ -175,10 +175,8 @@ TEST(QsDataSourceFaultHelper, RecordsAreVectorsThatTheirOwnerDeletes) {
 }
 
 TEST(QsDataSourceFaultHelper, DataSourcesNestedAHundredThousandDeepAreReadInOneWalk) {
-  TRNIDOM_Document document = newDocument();
-  TRNIDOM_Element root = document.createElement("f");
-  TRNIDOM_Node innermost = root;
-  for (int depth = 0; depth < 100'000; ++depth) innermost = innermost.appendChild(document.createElement("dataSource"));
+  TRNIDOM_Element innermost;
+  TRNIDOM_Element root = nestedDeep("dataSource", "", innermost);
   QsDataSourceFaultHelper helper;
   helper.Take(root);
   DataSourceInfo info;

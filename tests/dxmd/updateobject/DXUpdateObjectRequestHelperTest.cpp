@@ -276,14 +276,8 @@ TEST(DXUpdateRequestTaskHelper, NoTreeCrashesTheReader) {
 }
 
 TEST(DXUpdateObjectRequestHelper, TasksNestedAHundredThousandDeepAreRead) {
-  TRNIDOM_Document document = newDocument();
-  TRNIDOM_Element root = document.createElement("r");
-  TRNIDOM_Node innermost = root;
-  for (int depth = 0; depth < 100'000; ++depth) {
-    TRNIDOM_Element task = document.createElement("task");
-    task.setAttribute("name", "addObject");
-    innermost = innermost.appendChild(task);
-  }
+  TRNIDOM_Element innermost;
+  TRNIDOM_Element root = nestedDeep("task", "addObject", innermost);
   const DXUpdateObjectRequestHelper request(root);
   EXPECT_EQ(100'000U, request.GetTasks().size());
   std::vector<I18NString> ids;

@@ -174,18 +174,12 @@ TEST(DXUpdateObjectResponseHelper, NoTreeCrashesTheReader) {
 }
 
 TEST(DXUpdateObjectResponseHelper, TasksNestedAHundredThousandDeepAreReadInOneWalk) {
-  TRNIDOM_Document document = newDocument();
-  TRNIDOM_Element root = document.createElement("r");
-  TRNIDOM_Node innermost = root;
-  for (int depth = 0; depth < 100'000; ++depth) {
-    TRNIDOM_Element task = document.createElement("task");
-    task.setAttribute("name", "addObject");
-    innermost = innermost.appendChild(task);
-  }
+  TRNIDOM_Element innermost;
+  TRNIDOM_Element root = nestedDeep("task", "addObject", innermost);
   const DXUpdateObjectResponseHelper without(root);
   EXPECT_TRUE(without.GetTasks().front()->GetFeedback().isNull());
 
-  TRNIDOM_Node feedback = innermost.getParentNode().appendChild(document.createElement("feedback"));
+  TRNIDOM_Node feedback = innermost.getParentNode().appendChild(root.getOwnerDocument().createElement("feedback"));
   const DXUpdateObjectResponseHelper with(root);
   ASSERT_EQ(100'000U, with.GetTasks().size());
   EXPECT_EQ(feedback, with.GetTasks().front()->GetFeedback());
