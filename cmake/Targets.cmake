@@ -26,7 +26,8 @@ function(dxmd_add_library target alias output)
   set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
   # Calls within a library are not for others to redirect, and those into the next one, millions for a large document,
   # need no stub to be bound late.
-  target_compile_options(${target} PRIVATE -fno-semantic-interposition -fno-plt)
+  # Handles of two words are written word by word, and reading both with one vector instruction waits for both.
+  target_compile_options(${target} PRIVATE -fno-semantic-interposition -fno-plt -fno-tree-slp-vectorize)
   # A sanitizer's own symbols are in the program, as clang has it, so that its libraries must leave them undefined.
   if(NOT DXMD_SANITIZE)
     set(exports ${CMAKE_CURRENT_SOURCE_DIR}/exports.map)

@@ -15,7 +15,8 @@ void readChildText(const TRNIDOM_Node& parent, const I18NString& name, I18NStrin
 }
 
 TRNIDOM_Element firstNamed(TRNIDOM_Node node, const I18NString& name) {
-  while (!node.isNull() && !(isElement(node) && node.getNodeName() == name)) node = node.getNextSibling();
+  // Of the nodes of another kind only a processing instruction could have the name.
+  while (!node.isNull() && !(node.getNodeName() == name && isElement(node))) node = node.getNextSibling();
   return node;
 }
 

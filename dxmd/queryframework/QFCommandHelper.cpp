@@ -30,13 +30,13 @@ void rewriteForMetadata(TRNIDOM_Element& connection) {
 QFCommandHelper::QFCommandHelper() : QFCommandHelper(I18NString()) {}
 
 QFCommandHelper::QFCommandHelper(const I18NString& modelPath)
-    : m_modelPath(modelPath), m_properties{{STR_commandID, STR_DXCommand}, {STR_requestID, STR_DXRequest}} {}
+    : m_modelPath(modelPath), m_commandID(STR_DXCommand), m_requestID(STR_DXRequest) {}
 
 QFCommandHelper::~QFCommandHelper() = default;
 
 void QFCommandHelper::SetProperty(EProperty property, const I18NString& value) {
-  if (property == kPropertyCommandID) m_properties[STR_commandID] = value;
-  if (property == kPropertyRequestID) m_properties[STR_requestID] = value;
+  if (property == kPropertyCommandID) m_commandID = value;
+  if (property == kPropertyRequestID) m_requestID = value;
 }
 
 const I18NString& QFCommandHelper::GetDefaultDXCommandID() {
@@ -82,5 +82,6 @@ void QFCommandHelper::Incorporate(TRNIDOM_Document& doc, TRNIDOM_Element& out, T
   out.setAttribute(STR_xmlns_xsi, kSchemaInstanceNamespace);
   if (!m_connection.isNull()) appendImported(out, m_connection);
   out.appendChild(inner);
-  for (const auto& [key, value] : m_properties) appendValueElement(out, key, value);
+  appendValueElement(out, STR_commandID, m_commandID);
+  appendValueElement(out, STR_requestID, m_requestID);
 }

@@ -1,8 +1,6 @@
 #ifndef DXMD_QUERYFRAMEWORK_QFCOMMANDHELPER_H
 #define DXMD_QUERYFRAMEWORK_QFCOMMANDHELPER_H
 
-#include <map>
-
 #include <trn/I18NString.h>
 #include <trnidom/TRNIDOM_Document.h>
 #include <trnidom/TRNIDOM_Element.h>
@@ -57,7 +55,8 @@ class DXMD_API QFCommandHelper : public ActionHandlerBase {
 
  private:
   I18NString m_modelPath;
-  std::map<I18NString, I18NString> m_properties;
+  I18NString m_commandID;
+  I18NString m_requestID;
   TRNIDOM_Element m_connection;
 };
 

@@ -51,6 +51,28 @@ void terminateShort(UnicodeString& text) noexcept {
   if (isInside(text)) const_cast<char16_t*>(text.getBuffer())[text.length()] = 0;
 }
 
+/// Copies fewer than kShortLength code units, by words of which the last ones may overlap: a call would cost more.
+inline void copyFew(unsigned char* to, const char16_t* text, std::size_t length) noexcept {
+  const auto copy = [&](std::size_t at, std::size_t units) {
+    std::memcpy(to + at * sizeof(char16_t), text + at, units * sizeof(char16_t));
+  };
+  if (length >= 8) {
+    static_assert(kShortLength <= 32);
+    copy(0, 8);
+    if (length > 16) copy(8, 8);
+    if (length > 24) copy(16, 8);
+    copy(length - 8, 8);
+  } else if (length >= 4) {
+    copy(0, 4);
+    copy(length - 4, 4);
+  } else if (length >= 2) {
+    copy(0, 2);
+    copy(length - 2, 2);
+  } else if (length == 1) {
+    copy(0, 1);
+  }
+}
+
 /// A text of each short length. Texts are made and moved by the hundred thousand when a document is read, and most are
 /// short, so this is done by the bytes: ICU's object has no pointer into itself and nobody knows its address.
 class ShortTexts {
@@ -62,7 +84,7 @@ class ShortTexts {
 
   void make(unsigned char* storage, const char16_t* text, std::size_t length) const noexcept {
     std::memcpy(storage, static_cast<const void*>(&m_texts[length]), kHead);
-    if (length != 0) std::memcpy(storage + kHead, text, length * sizeof(char16_t));
+    copyFew(storage + kHead, text, length);
     std::memset(storage + kHead + length * sizeof(char16_t), 0, sizeof(char16_t));
   }
 
@@ -72,6 +94,13 @@ class ShortTexts {
 
   UnicodeString m_texts[kShortLength];
 };
+
+/// Never destroyed: texts are still made while static objects go.
+const ShortTexts& shortTexts() noexcept {
+  alignas(ShortTexts) static unsigned char place[sizeof(ShortTexts)];
+  static const auto* const theTexts = new (place) ShortTexts;
+  return *theTexts;
+}
 
 /// Makes the text that another was moved out of a proper empty one.
 void makeEmpty(UnicodeString& text) noexcept {
@@ -221,10 +250,7 @@ I18NString::I18NString(const char* text, const char* encoding, long length, Conv
 
 I18NString::I18NString(std::u16string_view text) {
   if (text.size() < kShortLength) {
-    // Never destroyed: texts are still made while static objects go.
-    alignas(ShortTexts) static unsigned char place[sizeof(ShortTexts)];
-    static const auto* const shortTexts = new (place) ShortTexts;
-    shortTexts->make(m_storage, text.data(), text.size());
+    shortTexts().make(m_storage, text.data(), text.size());
     return;
   }
   UnicodeString& target = *new (m_storage) UnicodeString;  // holds nothing when there is no memory for more
@@ -235,14 +261,19 @@ I18NString::I18NString(std::u16string_view text) {
 
 I18NString::I18NString(const I18NString& other) {
   const UnicodeString& text = icuText(other.m_storage);
+  // A short text is copied by the words that it was made with: whole, it would have to wait for them.
   if (isInside(text))
-    std::memcpy(m_storage, other.m_storage, sizeof(UnicodeString));
+    shortTexts().make(m_storage, text.getBuffer(), static_cast<std::size_t>(text.length()));
   else
     new (m_storage) UnicodeString(text);
 }
 
 I18NString::I18NString(I18NString&& other) noexcept {
-  std::memcpy(m_storage, other.m_storage, sizeof(UnicodeString));
+  const UnicodeString& text = icuText(other.m_storage);
+  if (isInside(text))
+    shortTexts().make(m_storage, text.getBuffer(), static_cast<std::size_t>(text.length()));
+  else
+    std::memcpy(m_storage, other.m_storage, sizeof(UnicodeString));
   terminateShort(*new (other.m_storage) UnicodeString);
 }
 
@@ -308,7 +339,13 @@ I18NString& I18NString::operator+=(const I18NString& other) {
 }
 
 bool I18NString::equals(const I18NString& other) const noexcept {
-  return icuText(m_storage) == icuText(other.m_storage);
+  const std::u16string_view left = view();
+  const std::u16string_view right = other.view();
+  if (left.size() != right.size()) return false;
+  // Most are short names, for which a call of memcmp costs as much as the comparison.
+  for (std::size_t i = 0; i < left.size(); ++i)
+    if (left[i] != right[i]) return false;
+  return true;
 }
 
 bool I18NString::precedes(const I18NString& other) const noexcept {
