@@ -6,7 +6,7 @@ namespace dxmd {
 
 TRNIDOM_Node firstText(const TRNIDOM_Node& parent) {
   TRNIDOM_Node child = parent.getFirstChild();
-  return isText(child) ? child : TRNIDOM_Node();
+  return child.getNodeType() == TRNIDOM_Node::TEXT_NODE ? child : TRNIDOM_Node();
 }
 
 void readChildText(const TRNIDOM_Node& parent, const I18NString& name, I18NString& text) {

@@ -20,11 +20,6 @@ inline bool isElement(const TRNIDOM_Node& node) {
   return node.getNodeType() == TRNIDOM_Node::ELEMENT_NODE;
 }
 
-/// Whether the node is a text node; a null handle is none.
-inline bool isText(const TRNIDOM_Node& node) {
-  return node.getNodeType() == TRNIDOM_Node::TEXT_NODE;
-}
-
 /// The node's first child when that is a text node, else null.
 TRNIDOM_Node firstText(const TRNIDOM_Node& parent);
 

@@ -8,8 +8,7 @@
 
 namespace dxmd {
 
-/// Records that a helper owns and hands out as plain pointers. Each lives until the list is cleared or destroyed, or
-/// until it is let go.
+/// Records that a helper owns and hands out as plain pointers. They live as long as the list that has them.
 template <typename T>
 class OwnedList {
  public:
@@ -19,14 +18,15 @@ class OwnedList {
     std::swap(m_items, other.m_items);
     return *this;
   }
-  ~OwnedList() { clear(); }
+  ~OwnedList() {
+    for (const T* item : m_items) delete item;
+  }
 
   /// The records in order; they stay owned by the list.
   const std::vector<T*>& items() const noexcept { return m_items; }
 
   bool empty() const noexcept { return m_items.empty(); }
   std::size_t size() const noexcept { return m_items.size(); }
-  T* operator[](std::size_t index) const noexcept { return m_items[index]; }
   auto begin() const noexcept { return m_items.begin(); }
   auto end() const noexcept { return m_items.end(); }
 
@@ -40,14 +40,6 @@ class OwnedList {
   template <typename... Args>
   T* emplace(Args&&... args) {
     return adopt(std::make_unique<T>(std::forward<Args>(args)...));
-  }
-
-  /// Deletes every record.
-  void clear() noexcept {
-    while (!m_items.empty()) {
-      const std::unique_ptr<T> last(m_items.back());
-      m_items.pop_back();
-    }
   }
 
   /// Deletes records that nest in themselves, to any depth, without recursion and without memory of its own.

@@ -30,12 +30,11 @@ void readText(const TRNIDOM_Element& fault, const I18NString& name, I18NString& 
   if (!first.isNull()) text = first.getNodeValue();
 }
 
-// Appends a record, which the list's owner deletes.
+// Appends a record, which the owner of the list then deletes.
 template <typename Record>
-Record& appendRecord(std::vector<Record*>& records) {
-  auto record = std::make_unique<Record>();
+void adopt(std::vector<Record*>& records, std::unique_ptr<Record> record) {
   records.push_back(record.get());
-  return *record.release();
+  record.release();
 }
 
 template <typename Record>
@@ -67,8 +66,11 @@ void readConnection(const Descendants& all, const Descendants::Found& element, C
   readValue(all, element, kSearchPath, connection.searchPath);
   // Callers look for the connection string where the search path is; it takes precedence.
   readValue(all, element, kConnectionString, connection.searchPath);
-  for (const Descendants::Found& signon : all.below(element, kSignon))
-    readSignon(all, signon, appendRecord(connection.signons));
+  for (const Descendants::Found& signon : all.below(element, kSignon)) {
+    auto record = std::make_unique<SignonInfo>();
+    readSignon(all, signon, *record);
+    adopt(connection.signons, std::move(record));
+  }
 }
 
 bool readDataSource(const Descendants& all, const Descendants::Found& element, const I18NString& name,
@@ -77,8 +79,11 @@ bool readDataSource(const Descendants& all, const Descendants::Found& element, c
   if (nameElement.isNull() || nameElement.getAttribute(STR_value) != name) return false;
   info.name = name;
   readValue(all, element, kType, info.type);
-  for (const Descendants::Found& connection : all.below(element, kConnection))
-    readConnection(all, connection, appendRecord(info.connections));
+  for (const Descendants::Found& connection : all.below(element, kConnection)) {
+    auto record = std::make_unique<ConnectionInfo>();
+    readConnection(all, connection, *record);
+    adopt(info.connections, std::move(record));
+  }
   return true;
 }
 

@@ -1,6 +1,10 @@
 // Part of every test program: expected documents name these, whatever the library was built for.
 
+#include "TestSupport.h"
+
 #include <dxmd/core/DXNamespaces.h>
+
+const dxmd_test::Namespaces dxmd_test::builtNamespaces{DXNamespaces::GetQueryService(), DXNamespaces::GetServiceBus()};
 
 namespace {
 

@@ -16,6 +16,13 @@
 /// What keeps a test case at three to eight lines.
 namespace dxmd_test {
 
+/// The namespaces that the library began with, before the test program set its own.
+struct Namespaces {
+  I18NString queryService;
+  I18NString serviceBus;
+};
+extern const Namespaces builtNamespaces;
+
 /// A new document with a placeholder element, as helpers get it.
 TRNIDOM_Document newDocument();
 

@@ -19,6 +19,11 @@ std::string declaredBy(const QFCommandHelper& command) {
 
 }  // namespace
 
+TEST(DXNamespaces, BeginAsTheLibraryWasBuilt) {
+  EXPECT_EQ(DXMD_QUERY_SERVICE_NAMESPACE, builtNamespaces.queryService);
+  EXPECT_EQ(DXMD_SERVICE_BUS_NAMESPACE, builtNamespaces.serviceBus);
+}
+
 TEST(DXNamespaces, CommandsDeclareWhatIsSetWhenTheyAreMade) {
   const I18NString before = DXNamespaces::GetQueryService();
   const QFCloseConnectionsCommandHelper command;

@@ -31,10 +31,7 @@ TEST(OwnedList, RecordsStayInPlaceAndGoWithTheirList) {
     EXPECT_EQ(1, first->number);
     EXPECT_EQ(100, list.items().back()->number);
     EXPECT_EQ(100, alive);
-    list.clear();
-    EXPECT_TRUE(list.empty());
-    EXPECT_EQ(0, alive);
-    list.emplace(1);
+    EXPECT_FALSE(list.empty());
   }
   EXPECT_EQ(0, alive);
 }
@@ -47,7 +44,6 @@ TEST(OwnedList, MovingHandsRecordsOver) {
   list = std::move(other);
   EXPECT_EQ(1, list.items().front()->number);
   EXPECT_EQ(1, alive);
-  list.clear();
 }
 
 TEST(OwnedList, NestedRecordsAreDeletedWithoutRecursionAtAnyDepthAndBreadth) {
