@@ -10,6 +10,7 @@
 
 #include <trnidom/TRNIDOM_Element.h>
 
+#include <tools/dxmd/json/Json.h>
 #include <tools/dxmd/json/JsonReader.h>
 #include <tools/dxmd/json/JsonWriter.h>
 
@@ -91,9 +92,6 @@ struct Kind {
   std::function<TRNIDOM_Element(JsonObject&, const KindOptions&)> encode;  ///< none when the kind is only read
   std::function<Decoded(TRNIDOM_Element&, const KindOptions&)> decode;     ///< none when the kind is only written
   bool roundTrips = false;  ///< decoding what was encoded from the example gives the example
-
-  /// JSON keys whose values are secrets, beside those that any kind hides by their names (see Secrets.h).
-  std::vector<std::string> secrets;
 
   std::string example;  ///< complete JSON to encode; for a kind that is only read, complete XML to decode
   std::vector<KindOption> options;

@@ -1,6 +1,7 @@
 #include "Registry.h"
 
 #include <tools/dxmd/ToolError.h>
+#include <tools/dxmd/json/Quote.h>
 #include <tools/dxmd/kinds/Families.h>
 
 namespace dxmd_tool {

@@ -1,8 +1,7 @@
 #include "Secrets.h"
 
 #include <algorithm>
-#include <iterator>
-#include <vector>
+#include <string_view>
 
 #include <trnidom/TRNIDOM_Document.h>
 #include <trnidom/TRNIDOM_NamedNodeMap.h>
@@ -10,30 +9,14 @@
 #include <trnidom/TRNIDOM_Parser.h>
 #include <trnidom/TRNIDOM_Writer.h>
 
+#include <tools/dxmd/json/Json.h>
+#include <tools/dxmd/json/SecretNames.h>
+
 namespace dxmd_tool {
 
 namespace {
 
 const char* const kMask = "***";
-
-constexpr const char* kSecretWords[] = {"password", "passwd", "pwd", "passport", "ticket"};
-
-std::string lowerCase(std::string_view text) {
-  std::string lower(text);
-  for (char& c : lower)
-    if ('A' <= c && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  return lower;
-}
-
-bool holdsSecretWord(std::string_view text) {
-  const std::string lower = lowerCase(text);
-  return std::any_of(std::begin(kSecretWords), std::end(kSecretWords),
-                     [&](const char* word) { return lower.find(word) != std::string::npos; });
-}
-
-bool isListed(const std::vector<std::string>& names, std::string_view name) {
-  return std::find(names.begin(), names.end(), name) != names.end();
-}
 
 /// Walks a tree of XML and hides what it says under the names of secrets. Trees may be of any depth.
 class XmlMasker {
@@ -93,7 +76,7 @@ class XmlMasker {
 };
 
 std::string maskedXml(const std::string& text) {
-  if (!holdsSecretWord(text)) return text;
+  if (!isSecretName(text)) return text;
   try {
     const TRNIDOM_Document document = TRNIDOM_Parser::parseString(text);
     XmlMasker().visitAll(document);
@@ -104,44 +87,30 @@ std::string maskedXml(const std::string& text) {
 }
 
 /// Walks the JSON, whose depth is bounded.
-class Masker {
- public:
-  explicit Masker(const Kind& kind) : m_kind(kind) {}
-
-  void visit(Json& json, std::string_view key, bool secret) const {
-    secret = secret || isSecret(key);
-    if (json.is_object()) {
-      const bool namesSecret =
-          json.contains("name") && json["name"].is_string() && isSecret(json["name"].get_ref<const std::string&>());
-      for (auto& member : json.get_ref<Json::object_t&>())
-        visit(member.second, member.first, secret || (namesSecret && member.first == "value"));
-    } else if (json.is_array()) {
-      for (Json& item : json) visit(item, key, secret);
-    } else if (json.is_string()) {
-      auto& text = json.get_ref<std::string&>();
-      if (secret)
-        text = text.empty() ? "" : kMask;
-      else if (const std::size_t first = text.find_first_not_of(" \t\r\n");
-               first != std::string::npos && text[first] == '<')
-        text = maskedXml(text);
-      else
-        text = maskedParameters(text);
-    } else if (secret && !json.is_null()) {
-      json = kMask;
-    }
+void mask(Json& json, std::string_view key, bool secret) {
+  secret = secret || isSecretName(key);
+  if (json.is_object()) {
+    const bool namesSecret =
+        json.contains("name") && json["name"].is_string() && isSecretName(json["name"].get_ref<const std::string&>());
+    for (auto& member : json.get_ref<Json::object_t&>())
+      mask(member.second, member.first, secret || (namesSecret && member.first == "value"));
+  } else if (json.is_array()) {
+    for (Json& item : json) mask(item, key, secret);
+  } else if (json.is_string()) {
+    auto& text = json.get_ref<std::string&>();
+    if (secret)
+      text = text.empty() ? "" : kMask;
+    else if (const std::size_t first = text.find_first_not_of(" \t\r\n");
+             first != std::string::npos && text[first] == '<')
+      text = maskedXml(text);
+    else
+      text = maskedParameters(text);
+  } else if (secret && !json.is_null()) {
+    json = kMask;
   }
-
- private:
-  bool isSecret(std::string_view key) const { return isSecretName(key) || isListed(m_kind.secrets, key); }
-
-  const Kind& m_kind;
-};
+}
 
 }  // namespace
-
-bool isSecretName(std::string_view name) {
-  return holdsSecretWord(name);
-}
 
 std::string maskedParameters(const std::string& text) {
   std::string masked;
@@ -149,7 +118,7 @@ std::string maskedParameters(const std::string& text) {
   for (std::size_t equals = text.find('='); equals != std::string::npos; equals = text.find('=', equals + 1)) {
     const std::size_t before = text.find_last_of(";&?={\"'", equals - (equals > 0 ? 1 : 0));
     const std::size_t name = std::max(done, before == std::string::npos || before >= equals ? 0 : before + 1);
-    if (name >= equals || !holdsSecretWord(std::string_view(text).substr(name, equals - name))) continue;
+    if (name >= equals || !isSecretName(std::string_view(text).substr(name, equals - name))) continue;
     // A value in quotes or braces may hold semicolons, and the closing one when that stands twice.
     std::size_t last = equals + 1;
     const std::size_t first = text.find_first_not_of(" \t", last);
@@ -166,8 +135,8 @@ std::string maskedParameters(const std::string& text) {
   return masked + text.substr(done);
 }
 
-void maskSecrets(Json& json, const Kind& kind) {
-  Masker(kind).visit(json, "", false);
+void maskSecrets(Json& json) {
+  mask(json, "", false);
 }
 
 }  // namespace dxmd_tool

@@ -12,6 +12,7 @@
 #include <tools/dxmd/Registry.h>
 #include <tools/dxmd/ToolError.h>
 #include <tools/dxmd/Verbs.h>
+#include <tools/dxmd/json/Quote.h>
 
 namespace dxmd_tool {
 

@@ -15,7 +15,9 @@
 #include <tools/dxmd/Registry.h>
 #include <tools/dxmd/Secrets.h>
 #include <tools/dxmd/ToolError.h>
+#include <tools/dxmd/json/JsonError.h>
 #include <tools/dxmd/json/JsonParser.h>
+#include <tools/dxmd/json/Quote.h>
 
 namespace dxmd_tool {
 
@@ -44,7 +46,7 @@ bool inputIsReplaced(const Kind& kind, const Settings& settings) {
          });
 }
 
-/// Runs what the library may refuse and says of which input it did.
+/// Runs what may refuse the input, and says which one where the refusal does not.
 template <typename Action>
 auto refusalsNamed(const std::string& name, const Action& action) {
   try {
@@ -52,6 +54,8 @@ auto refusalsNamed(const std::string& name, const Action& action) {
   } catch (const TRNAssertError& error) {
     throw ToolError(kStatusUnfit,
                     name + ": " + error.getLocation().getFile() + " refuses it: " + error.getMessage().toUtf8());
+  } catch (const JsonError& error) {
+    throw ToolError(error.cause() == JsonError::kMalformed ? kStatusSyntax : kStatusUnfit, error.what());
   } catch (const JsonTooDeep& error) {
     throw ToolError(kStatusUnfit, name + ": " + error.what());
   } catch (const TRNIDOM_DOMException& error) {
@@ -91,9 +95,9 @@ std::string xmlLine(const TRNIDOM_Node& node, unsigned indent) {
   return xml;
 }
 
-std::string jsonLine(Json& json, const Kind& kind, const Settings& settings) {
+std::string jsonLine(Json& json, const Settings& settings) {
   checkJsonDepth(json);
-  if (!settings.showSecrets) maskSecrets(json, kind);
+  if (!settings.showSecrets) maskSecrets(json);
   return toText(json, settings.indent.value_or(kJsonIndent)) + "\n";
 }
 
@@ -101,8 +105,8 @@ std::string jsonLine(Json& json, const Kind& kind, const Settings& settings) {
 
 std::string encode(const Kind& kind, const Settings& settings, std::istream& in) {
   const std::string name = inputName(settings);
-  const Json json = inputIsReplaced(kind, settings) ? Json::object() : parseJson(readInput(settings, in), name);
   return refusalsNamed(name, [&] {
+    const Json json = inputIsReplaced(kind, settings) ? Json::object() : parseJson(readInput(settings, in), name);
     TRNIDOM_Element element;
     readObject(json, name, [&](JsonObject& object) { element = kind.encode(object, settings.kindOptions); });
     return xmlLine(element, settings.indent.value_or(0));
@@ -115,7 +119,7 @@ std::string decode(const Kind& kind, const Settings& settings, std::istream& in)
   checkRoot(kind, root, name);
   return refusalsNamed(name, [&] {
     Decoded decoded = kind.decode(root, settings.kindOptions);
-    if (auto* json = std::get_if<Json>(&decoded)) return jsonLine(*json, kind, settings);
+    if (auto* json = std::get_if<Json>(&decoded)) return jsonLine(*json, settings);
     if (const auto* element = std::get_if<TRNIDOM_Element>(&decoded))
       return xmlLine(*element, settings.indent.value_or(0));
     return std::get<std::string>(decoded);
@@ -139,7 +143,6 @@ std::string notesOf(const Kind& kind) {
   notes += "Root element: " + joined(kind.roots);
   if (!kind.orHolding.empty()) notes += ", or any that holds " + joined(kind.orHolding);
   notes += "\n";
-  if (!kind.secrets.empty()) notes += "Hidden when decoded, unless --show-secrets: " + joined(kind.secrets) + "\n";
   return notes + "To start from: dxmd example " + kind.name;
 }
 

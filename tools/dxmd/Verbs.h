@@ -32,7 +32,7 @@ std::string listKinds();
 /// All that there is to say of one kind.
 std::string describe(const Kind& kind);
 
-/// The notes, element names and hidden fields of a kind, which its help ends with.
+/// The notes and element names of a kind, which its help ends with.
 std::string notesOf(const Kind& kind);
 
 }  // namespace dxmd_tool

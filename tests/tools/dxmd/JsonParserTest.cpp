@@ -9,8 +9,8 @@ using namespace dxmd_tool;
 
 namespace {
 
-void expectRefused(Status status, const std::string& message, const std::string& text) {
-  expectToolError(status, message, [&] { parseJson(text, "in"); });
+void expectRefused(JsonError::Cause cause, const std::string& message, const std::string& text) {
+  expectJsonError(cause, message, [&] { parseJson(text, "in"); });
 }
 
 std::string nested(std::size_t levels) {
@@ -25,32 +25,33 @@ TEST(JsonParser, MembersKeepTheirOrder) {
 }
 
 TEST(JsonParser, SyntaxErrorsNamePlaceAndShowNoText) {
-  expectRefused(kStatusSyntax, "in:2:18: not JSON: syntax error while parsing object - invalid literal; expected '}'",
+  expectRefused(JsonError::kMalformed,
+                "in:2:18: not JSON: syntax error while parsing object - invalid literal; expected '}'",
                 "{\n \"password\": \"s\" secret }");
-  expectRefused(kStatusSyntax,
+  expectRefused(JsonError::kMalformed,
                 "in:1:21: not JSON: syntax error while parsing value - invalid string: missing closing quote",
                 R"({"password": "secret)");
   const std::string open = "{\"\xC3\xA4\": \"secret\xFF\"}";
-  expectRefused(kStatusSyntax,
+  expectRefused(JsonError::kMalformed,
                 "in:1:14: not JSON: syntax error while parsing value - invalid string: ill-formed UTF-8 byte", open);
-  expectRefused(kStatusSyntax, "in:1:5: a number is out of range", "1e999");
+  expectRefused(JsonError::kMalformed, "in:1:5: a number is out of range", "1e999");
 }
 
 TEST(JsonParser, SaysWhenInputIsEmptyOrXml) {
-  expectRefused(kStatusSyntax, "in:1:1: empty where JSON is expected", " \n");
-  expectRefused(kStatusSyntax, "in:1:1: not JSON: this looks like XML", " <command/>");
-  expectRefused(kStatusSyntax, "in:2:1: U+0000 is no character of JSON", std::string("{}\n\0{", 5));
+  expectRefused(JsonError::kMalformed, "in:1:1: empty where JSON is expected", " \n");
+  expectRefused(JsonError::kMalformed, "in:1:1: not JSON: this looks like XML", " <command/>");
+  expectRefused(JsonError::kMalformed, "in:2:1: U+0000 is no character of JSON", std::string("{}\n\0{", 5));
 }
 
 TEST(JsonParser, KeyThatOccursTwiceIsRefusedWithItsPlace) {
-  expectRefused(kStatusUnfit, R"(in: $.queries[1]: the key "name" occurs twice)",
+  expectRefused(JsonError::kUnfit, R"(in: $.queries[1]: the key "name" occurs twice)",
                 R"({"queries": [{"name": "a"}, {"name": "b", "x": {"name": 1}, "name": "c"}]})");
 }
 
 TEST(JsonParser, RefusesMoreThan500Levels) {
   EXPECT_EQ(nested(500), parseJson(nested(500), "in").dump());
-  expectRefused(kStatusUnfit, "in: the JSON nests deeper than 500 levels", nested(501));
-  expectRefused(kStatusUnfit, "in: the JSON nests deeper than 500 levels", std::string(1000000, '['));
+  expectRefused(JsonError::kUnfit, "in: the JSON nests deeper than 500 levels", nested(501));
+  expectRefused(JsonError::kUnfit, "in: the JSON nests deeper than 500 levels", std::string(1000000, '['));
 }
 
 TEST(JsonParser, ManyMembersTakeLinearTime) {

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tools/dxmd/json/Json.h>
+
 #include "RunTool.h"
 #include "TestSupport.h"
 
@@ -10,7 +12,7 @@ using namespace dxmd_tool;
 
 namespace {
 
-enum ESize { kSizeUnset = 0, kSizeSmall = 1, kSizeLarge = 2 };
+enum ESize : int { kSizeUnset = 0, kSizeSmall = 1, kSizeLarge = 2 };
 const I18NString kSizeTexts[] = {"small", "large"};
 const EnumTable<ESize> kSizes{kSizeSmall, kSizeLarge,
                               [](ESize size) -> const I18NString& { return kSizeTexts[size - kSizeSmall]; }};
@@ -21,7 +23,7 @@ void read(const std::string& text, const std::function<void(JsonObject&)>& reade
 
 void expectRefused(const std::string& message, const std::string& text,
                    const std::function<void(JsonObject&)>& reader) {
-  expectToolError(kStatusUnfit, message, [&] { read(text, reader); });
+  expectJsonError(JsonError::kUnfit, message, [&] { read(text, reader); });
 }
 
 }  // namespace

@@ -36,6 +36,17 @@ void expectToolError(dxmd_tool::Status status, const std::string& message, const
   }
 }
 
+void expectJsonError(dxmd_tool::JsonError::Cause cause, const std::string& message,
+                     const std::function<void()>& action) {
+  try {
+    action();
+    ADD_FAILURE() << "nothing was refused; expected " << message;
+  } catch (const dxmd_tool::JsonError& error) {
+    EXPECT_EQ(message, error.what());
+    EXPECT_EQ(cause, error.cause());
+  }
+}
+
 TempFolder::TempFolder() {
   std::string pattern = std::filesystem::temp_directory_path() / "dxmd_test.XXXXXX";
   if (::mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no folder for temporary files");

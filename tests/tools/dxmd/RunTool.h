@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <tools/dxmd/ToolError.h>
+#include <tools/dxmd/json/JsonError.h>
 
 namespace dxmd_test {
 
@@ -24,6 +25,10 @@ void expectFailure(dxmd_tool::Status status, const std::string& message, const T
 
 /// Runs the action, which must throw a ToolError of that status and message.
 void expectToolError(dxmd_tool::Status status, const std::string& message, const std::function<void()>& action);
+
+/// Runs the action, which must throw a JsonError of that cause and message.
+void expectJsonError(dxmd_tool::JsonError::Cause cause, const std::string& message,
+                     const std::function<void()>& action);
 
 /// A folder that goes with its content at the end of the test.
 class TempFolder {

@@ -2,21 +2,16 @@
 #define TOOLS_DXMD_JSON_JSON_H
 
 #include <cstddef>
-#include <string>
 
 #include <trn/I18NString.h>
 #include <nlohmann/json.hpp>
 
-namespace dxmd_tool {
+#include <tools/dxmd/json/JsonFwd.h>
 
-/// JSON whose members keep their order.
-using Json = nlohmann::ordered_json;
+namespace dxmd_tool {
 
 /// JSON nested deeper is refused, on reading and on writing: the functions that walk it recurse.
 constexpr std::size_t kMaxJsonDepth = 500;
-
-/// The text between quotes for an error text: in ASCII but for letters, one line, cut when long.
-std::string inQuotes(const std::string& text);
 
 }  // namespace dxmd_tool
 

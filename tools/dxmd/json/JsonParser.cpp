@@ -6,8 +6,9 @@
 #include <utility>
 #include <vector>
 
-#include <tools/dxmd/ToolError.h>
-#include <tools/dxmd/json/JsonReader.h>
+#include <tools/dxmd/json/JsonError.h>
+#include <tools/dxmd/json/JsonPlace.h>
+#include <tools/dxmd/json/Quote.h>
 
 namespace dxmd_tool {
 
@@ -36,7 +37,7 @@ class Builder : public nlohmann::json_sax<Json> {
 
   bool key(string_t& key) override {
     if (!m_open.back().keys.insert(key).second)
-      throw ToolError(kStatusUnfit, m_source + ": " + path() + ": the key " + inQuotes(key) + " occurs twice");
+      throw JsonError(JsonError::kUnfit, m_source + ": " + path() + ": the key " + inQuotes(key) + " occurs twice");
     m_open.back().key = std::move(key);
     return true;
   }
@@ -52,7 +53,7 @@ class Builder : public nlohmann::json_sax<Json> {
     const auto line = 1 + std::count(before.begin(), before.end(), '\n');
     const auto column = 1 + std::count_if(before.begin() + static_cast<std::ptrdiff_t>(lineStart), before.end(),
                                           [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; });
-    throw ToolError(kStatusSyntax,
+    throw JsonError(JsonError::kMalformed,
                     m_source + ":" + std::to_string(line) + ":" + std::to_string(column) + ": " + reason);
   }
 
@@ -95,7 +96,7 @@ class Builder : public nlohmann::json_sax<Json> {
 
   bool open(Json container) {
     if (m_open.size() == kMaxJsonDepth)
-      throw ToolError(kStatusUnfit,
+      throw JsonError(JsonError::kUnfit,
                       m_source + ": the JSON nests deeper than " + std::to_string(kMaxJsonDepth) + " levels");
     m_open.push_back({put(std::move(container)), {}, {}});
     return true;
@@ -126,18 +127,10 @@ class Builder : public nlohmann::json_sax<Json> {
 
 }  // namespace
 
-std::string inQuotes(const std::string& text) {
-  constexpr std::size_t kLongest = 60;
-  std::size_t end = std::min(text.size(), kLongest);
-  while (end < text.size() && end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) --end;
-  const std::string shown = text.substr(0, end) + (end < text.size() ? "..." : "");
-  return Json(shown).dump(-1, ' ', false, Json::error_handler_t::replace);
-}
-
 Json parseJson(const std::string& text, const std::string& source) {
   const std::size_t first = text.find_first_not_of(" \t\r\n");
-  if (first == std::string::npos) throw ToolError(kStatusSyntax, source + ":1:1: empty where JSON is expected");
-  if (text[first] == '<') throw ToolError(kStatusSyntax, source + ":1:1: not JSON: this looks like XML");
+  if (first == std::string::npos) throw JsonError(JsonError::kMalformed, source + ":1:1: empty where JSON is expected");
+  if (text[first] == '<') throw JsonError(JsonError::kMalformed, source + ":1:1: not JSON: this looks like XML");
   Builder builder(text, source);
   // The parser takes it for the end of the input.
   if (const std::size_t nul = text.find('\0'); nul != std::string::npos)

@@ -7,8 +7,8 @@
 #include <trnidom/TRNIDOM_ParseError.h>
 #include <trnidom/TRNIDOM_Parser.h>
 
-#include <tools/dxmd/Secrets.h>
-#include <tools/dxmd/ToolError.h>
+#include <tools/dxmd/json/Json.h>
+#include <tools/dxmd/json/JsonError.h>
 
 namespace dxmd_tool {
 
@@ -16,13 +16,6 @@ namespace {
 
 I18NString toI18N(std::string_view text) {
   return I18NString(text.data(), nullptr, static_cast<long>(text.size()));
-}
-
-bool isPlainKey(std::string_view key) {
-  const auto isPlain = [](char c) {
-    return ('a' <= c && c <= 'z') || ('A' <= c && c <= 'Z') || ('0' <= c && c <= '9') || c == '_';
-  };
-  return !key.empty() && std::all_of(key.begin(), key.end(), isPlain);
 }
 
 const char* kindOf(const Json& json) {
@@ -44,37 +37,6 @@ const char* kindOf(const Json& json) {
 }
 
 }  // namespace
-
-std::string JsonPlace::path() const {
-  std::vector<const JsonPlace*> way;
-  for (const JsonPlace* place = this; place->parent != nullptr; place = place->parent) way.push_back(place);
-  std::string path = "$";
-  for (auto place = way.rbegin(); place != way.rend(); ++place) appendStep(path, (*place)->name, (*place)->index);
-  return path;
-}
-
-void JsonPlace::appendStep(std::string& path, std::string_view name, std::size_t index) {
-  if (name.data() == nullptr) {
-    path += '[' + std::to_string(index) + ']';
-  } else if (isPlainKey(name)) {
-    path += '.';
-    path += name;
-  } else {
-    path += '[' + inQuotes(std::string(name)) + ']';
-  }
-}
-
-std::string_view JsonPlace::source() const {
-  const JsonPlace* place = this;
-  while (place->parent != nullptr) place = place->parent;
-  return place->name;
-}
-
-bool JsonPlace::isSecret() const {
-  for (const JsonPlace* place = this; place->parent != nullptr; place = place->parent)
-    if (isSecretName(place->name)) return true;
-  return false;
-}
 
 I18NString JsonValue::text(const I18NString& otherwise) const {
   if (m_json == nullptr) return otherwise;
@@ -157,7 +119,7 @@ void JsonValue::members(const std::function<void(const I18NString&, const JsonVa
 }
 
 void JsonValue::fail(const std::string& reason) const {
-  throw ToolError(kStatusUnfit, std::string(m_place.source()) + ": " + m_place.path() + ": " + reason);
+  throw JsonError(JsonError::kUnfit, std::string(m_place.source()) + ": " + m_place.path() + ": " + reason);
 }
 
 void JsonValue::failType(const char* expected) const {
@@ -168,6 +130,26 @@ void JsonValue::failAmong(const std::string& texts) const {
   fail((m_place.isSecret() ? "the text" : inQuotes(m_json->get_ref<const std::string&>())) + " is none of " + texts);
 }
 
+std::size_t JsonValue::size() const {
+  return isList() || isObject() ? m_json->size() : 0;
+}
+
+bool JsonValue::isText() const {
+  return m_json != nullptr && m_json->is_string();
+}
+
+bool JsonValue::isList() const {
+  return m_json != nullptr && m_json->is_array();
+}
+
+bool JsonValue::isObject() const {
+  return m_json != nullptr && m_json->is_object();
+}
+
+bool JsonObject::has(std::string_view key) const {
+  return m_json.contains(key);
+}
+
 JsonValue JsonObject::required(std::string_view key) {
   const JsonValue value = optional(key);
   if (!value) fail("the key " + inQuotes(std::string(key)) + " is missing");
@@ -175,7 +157,7 @@ JsonValue JsonObject::required(std::string_view key) {
 }
 
 JsonValue JsonObject::optional(std::string_view key) {
-  m_known.emplace_back(key);
+  if (std::find(m_known.begin(), m_known.end(), key) == m_known.end()) m_known.emplace_back(key);
   for (const auto& member : m_json.get_ref<const Json::object_t&>())
     if (member.first == key) return JsonValue(&member.second, JsonPlace{&m_place, member.first});
   return JsonValue(nullptr, m_place);

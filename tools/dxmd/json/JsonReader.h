@@ -16,11 +16,13 @@
 #include <trnidom/TRNIDOM_Element.h>
 
 #include <tools/dxmd/json/EnumTable.h>
-#include <tools/dxmd/json/Json.h>
+#include <tools/dxmd/json/JsonFwd.h>
+#include <tools/dxmd/json/JsonPlace.h>
+#include <tools/dxmd/json/Quote.h>
 
 // Strict reading of JSON: a mapping function asks for what it knows, and whatever it did not ask for is refused.
 //
-// Every refusal is a ToolError that names the source and the place, such as
+// Every refusal is a JsonError that names the source and the place, such as
 //   request.json: $.queries[2].dataItems[0].sort: "up" is none of "none", "ascending", "descending"
 // and never shows a value that may be a secret.
 //
@@ -29,21 +31,6 @@
 namespace dxmd_tool {
 
 class JsonObject;
-
-/// Where a value stands; linked to where its parent stands, and written out only when something is wrong.
-struct JsonPlace {
-  const JsonPlace* parent;
-  std::string_view name;  ///< the key; the source's name for the whole text
-  std::size_t index = 0;  ///< of a list's item, whose name is null
-
-  /// `$.queries[2].name`
-  std::string path() const;
-  /// Writes one step of a path: `.name`, `["odd name"]`, or `[3]` where there is no name.
-  static void appendStep(std::string& path, std::string_view name, std::size_t index);
-  std::string_view source() const;
-  /// Whether a key on the way here is that of a secret.
-  bool isSecret() const;
-};
 
 /// One value of the JSON text, or none when it was optional and is absent. Valid as long as what it was asked from.
 class JsonValue {
@@ -76,13 +63,8 @@ class JsonValue {
   template <typename Enum>
   Enum enumerator(const EnumTable<Enum>& table, Enum otherwise = Enum{}) const {
     if (m_json == nullptr) return otherwise;
-    const I18NString given = text();
-    std::string texts;
-    for (Enum value : table.values()) {
-      if (table.text(value) == given) return value;
-      texts += (texts.empty() ? "" : ", ") + inQuotes(table.text(value).toUtf8());
-    }
-    failAmong(texts);
+    if (const std::optional<Enum> value = table.value(text())) return *value;
+    failAmong(table.quotedTexts());
   }
 
   /// A locale; the helpers take pointers to it and leave it with the caller.
@@ -106,11 +88,11 @@ class JsonValue {
   /// The members of an object with keys of the writer's own choice.
   void members(const std::function<void(const I18NString& key, const JsonValue&)>& read) const;
 
-  bool isText() const { return m_json != nullptr && m_json->is_string(); }
-  bool isList() const { return m_json != nullptr && m_json->is_array(); }
-  bool isObject() const { return m_json != nullptr && m_json->is_object(); }
+  bool isText() const;
+  bool isList() const;
+  bool isObject() const;
   /// The number of items or members; 0 for anything else.
-  std::size_t size() const { return isList() || isObject() ? m_json->size() : 0; }
+  std::size_t size() const;
 
   /// Refuses the value, for a reason that does not show it.
   [[noreturn]] void fail(const std::string& reason) const;
@@ -131,6 +113,9 @@ class JsonObject {
   JsonObject(const Json& json, const JsonPlace& place) : m_json(json), m_place(place) {}
   JsonObject(const JsonObject&) = delete;
   JsonObject& operator=(const JsonObject&) = delete;
+
+  /// Whether the member is there; does not ask for it.
+  bool has(std::string_view key) const;
 
   /// The member, which must be there.
   JsonValue required(std::string_view key);
