@@ -18,11 +18,6 @@ namespace dxmd_test {
 
 namespace {
 
-unsigned seedOfThisRun() {
-  const char* fixed = std::getenv("DXMD_TEST_SEED");
-  return fixed != nullptr ? static_cast<unsigned>(std::strtoul(fixed, nullptr, 10)) : std::random_device()();
-}
-
 class RandomTree {
  public:
   RandomTree(const TreeWords& words, std::mt19937& random)
@@ -82,9 +77,16 @@ class RandomTree {
 
 }  // namespace
 
-void feedRandomTrees(const TreeWords& words, const std::function<void(TRNIDOM_Element&)>& reader, int trees) {
-  const unsigned seed = seedOfThisRun();
+unsigned printedSeed() {
+  const char* fixed = std::getenv("DXMD_TEST_SEED");
+  const unsigned seed =
+      fixed != nullptr ? static_cast<unsigned>(std::strtoul(fixed, nullptr, 10)) : std::random_device()();
   std::cout << "DXMD_TEST_SEED=" << seed << std::endl;
+  return seed;
+}
+
+void feedRandomTrees(const TreeWords& words, const std::function<void(TRNIDOM_Element&)>& reader, int trees) {
+  const unsigned seed = printedSeed();
   std::mt19937 random(seed);
   for (int number = 0; number < trees; ++number) {
     RandomTree tree(words, random);

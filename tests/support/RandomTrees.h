@@ -9,6 +9,9 @@
 
 namespace dxmd_test {
 
+/// The seed for random input, which is printed; the environment variable DXMD_TEST_SEED sets it.
+unsigned printedSeed();
+
 /// What random trees are made of: a reader's own names and texts, so that it finds things, in places where it does not
 /// expect them.
 struct TreeWords {
@@ -21,7 +24,7 @@ struct TreeWords {
 /// any order; now and then the handle is null or stands on a node that is no element. Each call must return or throw
 /// TRNAssertError or TRNIDOM_DOMException.
 ///
-/// The seed is printed; the environment variable DXMD_TEST_SEED sets it. A failure shows the tree.
+/// The seed is `printedSeed`. A failure shows the tree.
 void feedRandomTrees(const TreeWords& words, const std::function<void(TRNIDOM_Element&)>& reader, int trees = 3000);
 
 }  // namespace dxmd_test

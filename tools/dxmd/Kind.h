@@ -3,48 +3,61 @@
 
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
-#include <variant>
 #include <vector>
 
 #include <trnidom/TRNIDOM_Element.h>
 
-#include <tools/dxmd/json/Json.h>
+#include <tools/dxmd/json/JsonFwd.h>
 #include <tools/dxmd/json/JsonReader.h>
-#include <tools/dxmd/json/JsonWriter.h>
+#include <tools/dxmd/shape/Description.h>
+#include <tools/dxmd/shape/Shape.h>
 
 // How to add a kind of message.
 //
-// A kind is one `Kind` in the list that its family returns, kinds/<Family>Kinds.cpp, and its mapping functions in the
-// same file. Nothing else knows kinds one by one: the verbs, their help, the masking of secrets and the tests that run
-// over every kind all work from this entry.
+// A kind is one line in kinds/kinds.def, one file kinds/<family>/<kind>.cpp, and one test of that name. The verbs,
+// their help, the schemas, the masking of secrets and the tests that run over every kind all work from these.
 //
-//   TRNIDOM_Element encodeNotice(JsonObject& json, const KindOptions&) {
-//     DXNoticeHelper notice;
-//     notice.SetText(json.required("text").text());
-//     notice.SetUrgency(json.optional("urgency").enumerator(kUrgencies));
-//     json.optional("lines").objects([&](JsonObject& line) { notice.AddLine(line.required("text").text()); });
-//     return made(notice);
+//   namespace dxmd_tool {
+//
+//   namespace {
+//
+//   struct Notice {
+//     I18NString text;
+//     Urgency urgency{};
+//   };
+//   void shape(Shape& s, Notice& notice) {
+//     s.required("text", notice.text, "What the users of the model are told");
+//     s.optional("urgency", notice.urgency, "How soon they should act", kUrgencies);
 //   }
 //
-//   Decoded decodeNotice(TRNIDOM_Element& root, const KindOptions&) {
-//     DXNoticeHelper notice;
-//     notice.Take(root);
-//     Json json = Json::object();
-//     json["text"] = notice.GetText();
-//     putUnlessEmpty(json, "urgency", kUrgencies.text(notice.GetUrgency()));
-//     return json;
+//   TRNIDOM_Element make(const Notice& notice) {
+//     DXNoticeHelper helper;
+//     helper.SetText(notice.text);
+//     helper.SetUrgency(notice.urgency);
+//     return made(helper);
 //   }
 //
-//   Kind notice;
-//   notice.name = "notice";
-//   notice.summary = "A notice to the users of a model";
-//   notice.roots = {"notice"};
-//   notice.encode = encodeNotice;
-//   notice.decode = decodeNotice;
-//   notice.roundTrips = true;
-//   notice.example = R"({"text": "Closed on Monday"})";
+//   Notice take(TRNIDOM_Element& root) {
+//     DXNoticeHelper helper;
+//     helper.Take(root);
+//     return {helper.GetText(), helper.GetUrgency()};
+//   }
+//
+//   }  // namespace
+//
+//   Kind kinds::notice() {
+//     Kind kind = kindOf(make, take);
+//     kind.summary = "A notice to the users of a model";
+//     kind.helper = "DXNoticeHelper";
+//     kind.roots = {"notice"};
+//     kind.example = R"({"text": "Closed on Monday"})";
+//     return kind;
+//   }
+//
+//   }  // namespace dxmd_tool
 //
 // JSON keys are the XML's names, or where the XML has none the setter's, with a small first letter. What a getter gives
 // goes under the key that the setter's value came from. The example shows every key; tests break it in every place.
@@ -52,7 +65,23 @@
 namespace dxmd_tool {
 
 /// What a decoder gives to print: JSON, a document to write back as XML, or text that is ready as it is.
-using Decoded = std::variant<Json, TRNIDOM_Element, std::string>;
+class Decoded {
+ public:
+  Decoded(Json json);                // NOLINT: whichever a decoder returns
+  Decoded(TRNIDOM_Element element);  // NOLINT
+  Decoded(std::string text);         // NOLINT
+
+  /// The JSON; null when it is something else.
+  Json* json() const { return m_json.get(); }
+  /// The document; null when it is something else.
+  const TRNIDOM_Element& element() const { return m_element; }
+  const std::string& text() const { return m_text; }
+
+ private:
+  std::shared_ptr<Json> m_json;
+  TRNIDOM_Element m_element;
+  std::string m_text;
+};
 
 /// An option of one kind, which joins the help of that kind's verb and is refused for other kinds.
 struct KindOption {
@@ -78,19 +107,31 @@ class KindOptions {
   std::map<std::string, std::string> m_values;
 };
 
+/// Who reads or writes a document: a helper of the library, or the tool where the library has none for that.
+enum class Does { kLibrary, kTool };
+
 /// One kind of message and all that the tool knows of it.
 struct Kind {
-  std::string name;     ///< as typed
+  std::string name;     ///< as typed; from kinds.def
+  std::string family;   ///< the folder of its helper; from kinds.def
   std::string summary;  ///< one line
-  std::string notes;    ///< for the kind's help: forms of the JSON, peculiarities; lines of at most 100 columns
+  std::string notes;    ///< what the keys' meanings cannot say, for the kind's help; lines of at most 100 columns
+
+  std::string helper;  ///< the class that writes or reads it; its header bears the same name
+  Does writes = Does::kLibrary;
+  Does reads = Does::kLibrary;
+  std::string reply;  ///< the kind that answers it
 
   /// The root element: what `encode` writes first, then others that `decode` takes.
   std::vector<std::string> roots;
+  /// For a command: the element inside the envelope, or inside "dxCommand" there, that tells it from other commands.
+  std::string wrapped;
   /// `decode` takes a root of any name when the document holds an element of one of these names.
   std::vector<std::string> orHolding;
 
-  std::function<TRNIDOM_Element(JsonObject&, const KindOptions&)> encode;  ///< none when the kind is only read
-  std::function<Decoded(TRNIDOM_Element&, const KindOptions&)> decode;     ///< none when the kind is only written
+  std::function<Description()> describe;  ///< its JSON
+  std::function<TRNIDOM_Element(JsonObject&, const KindOptions&)> encode;
+  std::function<Decoded(TRNIDOM_Element&, const KindOptions&)> decode;
   bool roundTrips = false;  ///< decoding what was encoded from the example gives the example
 
   std::string example;  ///< complete JSON to encode; for a kind that is only read, complete XML to decode
@@ -104,6 +145,37 @@ TRNIDOM_Element made(const Helper& helper) {
   helper.Make(element);
   return element;
 }
+
+Decoded runDecoded(const std::function<void(Shape&)>& run);
+
+/// The record as decoded JSON.
+template <typename Record>
+Decoded decodedRecord(const Record& record) {
+  return runDecoded([&](Shape& s) { shape(s, const_cast<Record&>(record)); });
+}
+
+/// A kind whose JSON is that of a record.
+template <typename Record>
+Kind kindOf(TRNIDOM_Element (*make)(const Record&), Record (*take)(TRNIDOM_Element&)) {
+  Kind kind;
+  kind.describe = [] { return describe<Record>(); };
+  kind.encode = [make](JsonObject& json, const KindOptions&) {
+    Record record{};
+    readRecord(json, record);
+    return make(record);
+  };
+  kind.decode = [take](TRNIDOM_Element& root, const KindOptions&) { return decodedRecord(take(root)); };
+  return kind;
+}
+
+// Each kind's own function.
+namespace kinds {
+
+#define DXMD_KIND(family, kind) Kind kind();
+#include <tools/dxmd/kinds/kinds.def>
+#undef DXMD_KIND
+
+}  // namespace kinds
 
 }  // namespace dxmd_tool
 

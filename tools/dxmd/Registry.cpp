@@ -9,6 +9,14 @@ namespace dxmd_tool {
 const std::vector<Kind>& allKinds() {
   static const std::vector<Kind> kinds = [] {
     std::vector<Kind> all;
+    const auto add = [&](const char* family, const char* name, Kind kind) {
+      kind.family = family;
+      kind.name = name;
+      all.push_back(std::move(kind));
+    };
+#define DXMD_KIND(family, kind) add(#family, #kind, kinds::kind());
+#include <tools/dxmd/kinds/kinds.def>
+#undef DXMD_KIND
     for (const auto family : {queryFrameworkKinds, queryServiceKinds, queryEngineKinds, coreKinds, modelActionsKinds,
                               updateObjectKinds, materializeKinds, modelAnalysisKinds}) {
       std::vector<Kind> some = family();

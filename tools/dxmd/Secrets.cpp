@@ -86,16 +86,22 @@ std::string maskedXml(const std::string& text) {
   }
 }
 
-/// Walks the JSON, whose depth is bounded.
-void mask(Json& json, std::string_view key, bool secret) {
+/// Walks the JSON, whose depth is bounded, and beside it the description.
+void mask(Json& json, std::string_view key, bool secret, const DescribedRecord* record) {
   secret = secret || isSecretName(key);
   if (json.is_object()) {
     const bool namesSecret =
         json.contains("name") && json["name"].is_string() && isSecretName(json["name"].get_ref<const std::string&>());
-    for (auto& member : json.get_ref<Json::object_t&>())
-      mask(member.second, member.first, secret || (namesSecret && member.first == "value"));
+    for (auto& member : json.get_ref<Json::object_t&>()) {
+      const DescribedKey* const described = record != nullptr ? record->find(member.first) : nullptr;
+      const DescribedType* type = described != nullptr ? &described->type : nullptr;
+      while (type != nullptr && type->item) type = type->item.get();
+      mask(member.second, member.first,
+           secret || (namesSecret && member.first == "value") || (described != nullptr && described->secret),
+           type != nullptr ? type->record : nullptr);
+    }
   } else if (json.is_array()) {
-    for (Json& item : json) mask(item, key, secret);
+    for (Json& item : json) mask(item, key, secret, record);
   } else if (json.is_string()) {
     auto& text = json.get_ref<std::string&>();
     if (secret)
@@ -135,8 +141,8 @@ std::string maskedParameters(const std::string& text) {
   return masked + text.substr(done);
 }
 
-void maskSecrets(Json& json) {
-  mask(json, "", false);
+void maskSecrets(Json& json, const DescribedRecord* record) {
+  mask(json, "", false, record);
 }
 
 }  // namespace dxmd_tool

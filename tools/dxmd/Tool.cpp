@@ -69,6 +69,7 @@ class CommandLine {
     m_kinds = m_app.add_subcommand("kinds", "List the kinds of messages, or describe one");
     m_kinds->add_option("KIND", m_kindName, "The kind to describe")->option_text(" ");
     m_kinds->footer("");
+    m_kinds->add_flag("--json", m_json, "Print JSON, for programs: all that is known of the kind, or of all kinds");
     setUsage(*m_kinds, "kinds [OPTIONS] [KIND]");
     addOutput(*m_kinds);
     m_example = m_app.add_subcommand("example", "Print complete JSON to encode, or XML for a kind that is only read");
@@ -76,6 +77,11 @@ class CommandLine {
     m_example->footer("");
     setUsage(*m_example, "example [OPTIONS] KIND");
     addOutput(*m_example);
+    m_schema = m_app.add_subcommand("schema", "Print the JSON Schema of what encode takes");
+    m_schema->add_option("KIND", m_kindName, "The kind of message")->required()->option_text(" ");
+    m_schema->footer("");
+    setUsage(*m_schema, "schema [OPTIONS] KIND");
+    addOutput(*m_schema);
     // Last, since verbs would inherit it: what is no verb ends up here, where it can be told what the verbs are.
     m_app.allow_extras();
   }
@@ -122,7 +128,7 @@ class CommandLine {
       if (verb == KindOption::kEncode ? !kind.encode : !kind.decode) continue;
       CLI::App* command = app->add_subcommand(kind.name, kind.summary);
       command->group("Kinds");
-      command->footer(notesOf(kind));
+      command->footer((kind.describe ? "Keys of the JSON: dxmd kinds " + kind.name + "\n" : "") + notesOf(kind));
       setUsage(*command, name + (" " + kind.name) + " [OPTIONS] [FILE]");
       command->add_option("FILE", m_settings.file, verb == KindOption::kEncode ? "The JSON to read" : "The XML to read")
           ->option_text(" ");
@@ -168,7 +174,9 @@ class CommandLine {
     if (m_encode->parsed()) return encode(kindOf(*m_encode), m_settings, in);
     if (m_decode->parsed()) return decode(kindOf(*m_decode), m_settings, in);
     if (m_example->parsed()) return findKind(m_kindName).example + "\n";
-    return m_kindName.empty() ? listKinds() : describe(findKind(m_kindName));
+    if (m_schema->parsed()) return schema(findKind(m_kindName));
+    if (m_kindName.empty()) return m_json ? describeAllForPrograms() : listKinds();
+    return m_json ? describeForPrograms(findKind(m_kindName)) : describe(findKind(m_kindName));
   }
 
   /// Refuses anything but one verb.
@@ -176,8 +184,9 @@ class CommandLine {
     const std::vector<std::string> extras = m_app.remaining();
     const bool hasVerb = !m_app.get_subcommands().empty();
     if (!extras.empty() && (hasVerb || isOption(extras[0]))) failUnexpected(extras[0]);
-    if (!extras.empty()) fail(inQuotes(extras[0]) + " is no verb; the verbs are encode, decode, kinds and example");
-    if (!hasVerb) fail("a verb is needed: encode, decode, kinds or example");
+    if (!extras.empty())
+      fail(inQuotes(extras[0]) + " is no verb; the verbs are encode, decode, kinds, example and schema");
+    if (!hasVerb) fail("a verb is needed: encode, decode, kinds, example or schema");
   }
 
   /// The kind that the verb was given.
@@ -204,8 +213,10 @@ class CommandLine {
   CLI::App* m_decode;
   CLI::App* m_kinds;
   CLI::App* m_example;
+  CLI::App* m_schema;
   Settings m_settings;
   std::string m_kindName;
+  bool m_json = false;
   std::map<std::string, std::string> m_kindValues;
 };
 

@@ -15,9 +15,13 @@
 #include <tools/dxmd/Registry.h>
 #include <tools/dxmd/Secrets.h>
 #include <tools/dxmd/ToolError.h>
+#include <tools/dxmd/json/Json.h>
 #include <tools/dxmd/json/JsonError.h>
 #include <tools/dxmd/json/JsonParser.h>
+#include <tools/dxmd/json/JsonWriter.h>
 #include <tools/dxmd/json/Quote.h>
+#include <tools/dxmd/shape/Schema.h>
+#include <tools/dxmd/xml/Elements.h>
 
 namespace dxmd_tool {
 
@@ -58,6 +62,8 @@ auto refusalsNamed(const std::string& name, const Action& action) {
     throw ToolError(error.cause() == JsonError::kMalformed ? kStatusSyntax : kStatusUnfit, error.what());
   } catch (const JsonTooDeep& error) {
     throw ToolError(kStatusUnfit, name + ": " + error.what());
+  } catch (const XmlError& error) {
+    throw ToolError(kStatusUnfit, name + ": " + error.what());
   } catch (const TRNIDOM_DOMException& error) {
     throw ToolError(kStatusUnfit, name + ": " + error.what());
   }
@@ -79,7 +85,12 @@ TRNIDOM_Document parseXml(const std::string& text, const std::string& name) {
 /// Refuses a document of another kind.
 void checkRoot(const Kind& kind, const TRNIDOM_Element& root, const std::string& name) {
   const std::string found = root.getNodeName().toUtf8();
-  if (std::find(kind.roots.begin(), kind.roots.end(), found) != kind.roots.end()) return;
+  if (std::find(kind.roots.begin(), kind.roots.end(), found) != kind.roots.end()) {
+    if (kind.wrapped.empty() || !firstChild(root, kind.wrapped.c_str()).isNull() ||
+        !firstChild(firstChild(root, "dxCommand"), kind.wrapped.c_str()).isNull())
+      return;
+    throw ToolError(kStatusUnfit, name + ": no " + kind.name + ": its command is not " + inQuotes(kind.wrapped));
+  }
   for (const std::string& part : kind.orHolding)
     if (!TRNIDOM_Helper::findFirstElement(root, part.c_str()).isNull()) return;
   throw ToolError(kStatusUnfit, name + ": no " + kind.name + ": its root element is " + inQuotes(found) + ", not " +
@@ -95,10 +106,54 @@ std::string xmlLine(const TRNIDOM_Node& node, unsigned indent) {
   return xml;
 }
 
-std::string jsonLine(Json& json, const Settings& settings) {
+std::string jsonLine(Json& json, const Kind& kind, const Settings& settings) {
   checkJsonDepth(json);
-  if (!settings.showSecrets) maskSecrets(json);
+  if (!settings.showSecrets) {
+    const Description description = kind.describe ? kind.describe() : Description();
+    maskSecrets(json, kind.describe ? &description.whole() : nullptr);
+  }
   return toText(json, settings.indent.value_or(kJsonIndent)) + "\n";
+}
+
+std::string headerOf(const Kind& kind) {
+  return "<dxmd/" + kind.family + "/" + kind.helper + ".h>";
+}
+
+/// `Helper writes it; the tool alone reads it`, and the header.
+std::string classOf(const Kind& kind) {
+  const bool writes = kind.writes == Does::kLibrary;
+  const bool reads = kind.reads == Does::kLibrary;
+  return kind.helper + " " +
+         (writes && reads ? "writes and reads it"
+          : writes        ? "writes it; the tool alone reads it"
+                          : "reads it; the tool alone writes it") +
+         "\nHeader: " + headerOf(kind);
+}
+
+Json forPrograms(const Kind& kind) {
+  Json json = {{"kind", kind.name}, {"family", kind.family}, {"summary", kind.summary}, {"roots", kind.roots}};
+  if (!kind.wrapped.empty()) json["wrapped"] = kind.wrapped;
+  if (!kind.orHolding.empty()) json["orHolding"] = kind.orHolding;
+  json["encodes"] = static_cast<bool>(kind.encode);
+  json["decodes"] = static_cast<bool>(kind.decode);
+  if (!kind.helper.empty()) {
+    json["class"] = kind.helper;
+    json["header"] = headerOf(kind);
+    json["libraryWrites"] = kind.writes == Does::kLibrary;
+    json["libraryReads"] = kind.reads == Does::kLibrary;
+  }
+  if (!kind.reply.empty()) json["reply"] = kind.reply;
+  if (!kind.notes.empty()) json["notes"] = kind.notes;
+  for (const KindOption& option : kind.options) {
+    Json described = {{"verb", option.verb == KindOption::kEncode ? "encode" : "decode"},
+                      {"name", option.name},
+                      {"argument", option.argument},
+                      {"help", option.help}};
+    if (!option.choices.empty()) described["choices"] = option.choices;
+    json["options"].push_back(std::move(described));
+  }
+  if (kind.describe) json.update(keysOf(kind.describe()));
+  return json;
 }
 
 }  // namespace
@@ -118,11 +173,10 @@ std::string decode(const Kind& kind, const Settings& settings, std::istream& in)
   TRNIDOM_Element root = parseXml(readInput(settings, in), name).getDocumentElement();
   checkRoot(kind, root, name);
   return refusalsNamed(name, [&] {
-    Decoded decoded = kind.decode(root, settings.kindOptions);
-    if (auto* json = std::get_if<Json>(&decoded)) return jsonLine(*json, settings);
-    if (const auto* element = std::get_if<TRNIDOM_Element>(&decoded))
-      return xmlLine(*element, settings.indent.value_or(0));
-    return std::get<std::string>(decoded);
+    const Decoded decoded = kind.decode(root, settings.kindOptions);
+    if (Json* const json = decoded.json()) return jsonLine(*json, kind, settings);
+    if (!decoded.element().isNull()) return xmlLine(decoded.element(), settings.indent.value_or(0));
+    return decoded.text();
   });
 }
 
@@ -141,9 +195,11 @@ std::string notesOf(const Kind& kind) {
   std::string notes = kind.notes;
   if (!notes.empty()) notes += notes.back() == '\n' ? "\n" : "\n\n";
   notes += "Root element: " + joined(kind.roots);
+  if (!kind.wrapped.empty()) notes += ", around " + kind.wrapped;
   if (!kind.orHolding.empty()) notes += ", or any that holds " + joined(kind.orHolding);
-  notes += "\n";
-  return notes + "To start from: dxmd example " + kind.name;
+  if (!kind.helper.empty()) notes += "\nIn C++: " + classOf(kind);
+  if (!kind.reply.empty()) notes += "\nReply: dxmd kinds " + kind.reply;
+  return notes + "\nTo start from: dxmd example " + kind.name;
 }
 
 std::string describe(const Kind& kind) {
@@ -152,7 +208,23 @@ std::string describe(const Kind& kind) {
   if (kind.decode) text += "  dxmd decode " + kind.name + " [FILE]\n";
   for (const KindOption& option : kind.options)
     text += std::string("    ") + option.name + " " + option.argument + "  " + option.help + "\n";
+  if (kind.describe) text += "\nKeys of the JSON:\n" + keysAsText(kind.describe());
   return text + "\n" + notesOf(kind) + "\n";
+}
+
+std::string describeForPrograms(const Kind& kind) {
+  return toText(forPrograms(kind), kJsonIndent) + "\n";
+}
+
+std::string describeAllForPrograms() {
+  Json all = Json::array();
+  for (const Kind& kind : allKinds()) all.push_back(forPrograms(kind));
+  return toText(all, kJsonIndent) + "\n";
+}
+
+std::string schema(const Kind& kind) {
+  if (!kind.describe) throw ToolError(kStatusUsage, "the kind " + kind.name + " has no schema");
+  return toText(schemaOf(kind.describe(), kind.name, kind.summary), kJsonIndent) + "\n";
 }
 
 }  // namespace dxmd_tool

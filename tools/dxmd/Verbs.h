@@ -32,6 +32,14 @@ std::string listKinds();
 /// All that there is to say of one kind.
 std::string describe(const Kind& kind);
 
+/// The same for programs, of one kind or of all, as JSON.
+std::string describeForPrograms(const Kind& kind);
+std::string describeAllForPrograms();
+
+/// The JSON Schema of what `encode` takes.
+/// @throws ToolError when the kind has none.
+std::string schema(const Kind& kind);
+
 /// The notes and element names of a kind, which its help ends with.
 std::string notesOf(const Kind& kind);
 

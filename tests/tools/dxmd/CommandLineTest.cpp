@@ -33,14 +33,16 @@ TEST(CommandLine, WrongUsageIsStatus2) {
   EXPECT_EQ(2, run({"encode", "execute", "--indent", "-1"}, "{}").status);
   EXPECT_EQ(2, run({"decode", "response", "--format", "csv"}).status);
   EXPECT_EQ(2, run({"decode", "response", "--output"}).status);
-  expectFailure(kStatusUsage, "a verb is needed: encode, decode, kinds or example (see dxmd --help)", run({}));
-  expectFailure(kStatusUsage, "\"foo\" is no verb; the verbs are encode, decode, kinds and example (see dxmd --help)",
+  expectFailure(kStatusUsage, "a verb is needed: encode, decode, kinds, example or schema (see dxmd --help)", run({}));
+  expectFailure(kStatusUsage,
+                "\"foo\" is no verb; the verbs are encode, decode, kinds, example and schema (see dxmd --help)",
                 run({"foo"}));
   expectFailure(kStatusUsage, "a kind of message is needed (see dxmd encode --help)", run({"encode"}));
   expectFailure(kStatusUsage, "unexpected argument \"--x\" (see dxmd encode execute --help)",
                 run({"encode", "--x", "execute"}));
-  expectFailure(kStatusUsage, "the kind response is only read: dxmd decode response", run({"encode", "response"}));
-  expectFailure(kStatusUsage, "the kind execute is only written: dxmd encode execute", run({"decode", "execute"}));
+  expectFailure(kStatusUsage, "the kind importConfig is only read: dxmd decode importConfig",
+                run({"encode", "importConfig"}));
+  expectFailure(kStatusUsage, "the kind update is only written: dxmd encode update", run({"decode", "update"}));
   EXPECT_TRUE(has(run({"decode", "nonsense"}).err, "\"nonsense\" is no kind of message; the kinds are execute, "));
   EXPECT_TRUE(has(run({"kinds", "nonsense"}).err, "\"nonsense\" is no kind of message"));
 }

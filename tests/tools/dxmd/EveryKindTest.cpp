@@ -1,5 +1,6 @@
 // What holds for each kind of message, whatever it is: these tests run over the registry.
 
+#include <algorithm>
 #include <functional>
 #include <set>
 #include <sstream>
@@ -11,9 +12,13 @@
 #include <tools/dxmd/Registry.h>
 #include <tools/dxmd/ToolError.h>
 #include <tools/dxmd/Verbs.h>
+#include <tools/dxmd/json/Json.h>
 #include <tools/dxmd/json/JsonParser.h>
+#include <tools/dxmd/json/JsonWriter.h>
 #include <tools/dxmd/json/SecretNames.h>
 
+#include "RandomJson.h"
+#include "RandomTrees.h"
 #include "RunTool.h"
 #include "TestSupport.h"
 
@@ -29,7 +34,14 @@ class EveryKind : public testing::TestWithParam<std::string> {
 
   std::string encoded(const Json& json) const {
     std::istringstream in(json.dump());
-    return encode(kind(), Settings(), in);
+    try {
+      std::string xml = encode(kind(), Settings(), in);
+      keepEncoded(GetParam(), in.str());
+      return xml;
+    } catch (const ToolError& error) {
+      keepEncoded(GetParam(), in.str(), error.what());
+      throw;
+    }
   }
 
   Json decoded(const std::string& xml, bool showSecrets = true) const {
@@ -69,6 +81,7 @@ class EveryKind : public testing::TestWithParam<std::string> {
 class EncodedKind : public EveryKind {};
 class DecodedKind : public EveryKind {};
 class RoundTrippingKind : public EveryKind {};
+class DescribedKind : public EveryKind {};
 
 auto kindsThat(const std::function<bool(const Kind&)>& holds) {
   std::vector<std::string> names;
@@ -118,6 +131,80 @@ TEST_P(EveryKind, SaysWhatItIs) {
   for (std::string line; std::getline(notes, line);) EXPECT_LE(line.size(), 100u) << line;
 }
 
+TEST_P(DescribedKind, SaysWhichClassIsItsOwnAndWhatAnswersIt) {
+  const std::string header = bytesOf(DXMD_SOURCE "/dxmd/" + kind().family + "/" + kind().helper + ".h");
+  EXPECT_NE(std::string::npos, header.find("class DXMD_API " + kind().helper + " ")) << kind().helper;
+  if (!kind().reply.empty()) {
+    EXPECT_TRUE(findKind(kind().reply).describe);
+  }
+  EXPECT_FALSE(kind().writes == Does::kTool && kind().reads == Does::kTool);
+}
+
+TEST_P(DescribedKind, ExampleShowsEveryKey) {
+  std::set<std::string> shown;
+  Json example = exampleJson();
+  visit(example, "$", [&](Json& value, const std::string&) {
+    if (!value.is_object()) return;
+    for (const auto& member : value.get_ref<const Json::object_t&>()) shown.insert(member.first);
+  });
+  const Description description = kind().describe();
+  std::set<const DescribedRecord*> known;
+  std::vector<const DescribedRecord*> open{&description.whole()};
+  while (!open.empty()) {
+    const DescribedRecord& record = *open.back();
+    open.pop_back();
+    if (!known.insert(&record).second) continue;
+    for (const DescribedKey& key : record.keys) {
+      EXPECT_NE('.', key.meaning.back()) << key.meaning << " is ended by help";
+      // An example shows one of several choices.
+      if (record.choice.empty()) {
+        EXPECT_EQ(1u, shown.count(key.name)) << key.name;
+      }
+      const DescribedType* type = &key.type;
+      while (type->item) type = type->item.get();
+      // What another kind takes, that kind's example shows.
+      if (type->record != nullptr && key.kind.empty()) open.push_back(type->record);
+    }
+  }
+}
+
+TEST_P(DescribedKind, ExampleRoundTrips) {
+  const Description description = kind().describe();
+  Json expected = exampleJson();
+  dropLost(expected, description.whole());
+  EXPECT_EQ(toText(expected, 2), toText(decoded(exampleXml()), 2));
+}
+
+TEST_P(DescribedKind, RandomJsonComesBack) {
+  const unsigned seed = printedSeed();
+  const Description description = kind().describe();
+  RandomJson random(description, seed);
+  for (int number = 0; number < 300 && !HasFailure(); ++number) {
+    const Json json = random.next();
+    SCOPED_TRACE("seed " + std::to_string(seed) + ", number " + std::to_string(number) + ": " + json.dump());
+    const std::string xml = encoded(json);
+    const Json again = decoded(xml);
+    Json expected = json;
+    const bool isWhole = !dropLost(expected, description.whole());
+    EXPECT_EQ(toText(expected, 2), toText(again, 2)) << xml;
+    const std::string xmlAgain = encoded(again);
+    if (isWhole) {
+      EXPECT_EQ(xml, xmlAgain);
+    }
+    EXPECT_EQ(toText(again, 2), toText(decoded(xmlAgain), 2)) << xmlAgain;
+  }
+}
+
+// What stands here is what users rely on: a kind that leaves the list loses something that it gave back before.
+TEST(EveryKindThatComesBackWhole, IsListed) {
+  const std::set<std::string> expected = {"execute",         "response",        "closeConnections", "connection",
+                                          "expandParameter", "expansionResult", "packages"};
+  std::set<std::string> whole;
+  for (const Kind& kind : allKinds())
+    if (kind.describe && !losesKeys(kind.describe())) whole.insert(kind.name);
+  EXPECT_EQ(expected, whole);
+}
+
 TEST_P(EncodedKind, ExampleIsEncodedAsTheRootDeclared) {
   EXPECT_EQ(kind().roots.at(0).c_str(), parsed(encoded(exampleJson())).getNodeName());
 }
@@ -132,7 +219,7 @@ TEST_P(EncodedKind, UnknownKeyIsRefusedWhereverItStands) {
     if (!value.is_object()) return;
     const Json kept = value;
     // No kind has such a value, so that objects with keys of one's own choice refuse it too.
-    value["surplus"] = Json::parse("[[]]");
+    value["surplus"] = Json::parse("[[{}]]");
     expectRefusedAt(path, json);
     value = kept;
   });
@@ -142,7 +229,7 @@ TEST_P(EncodedKind, ValueOfWrongTypeIsRefusedWithItsPlace) {
   Json json = exampleJson();
   visit(json, "$", [&](Json& value, const std::string& path) {
     const Json kept = value;
-    value = Json::parse("[[]]");
+    value = Json::parse("[[{}]]");
     expectRefusedAt(path, json);
     value = nullptr;
     expectRefusedAt(path, json);
@@ -229,4 +316,5 @@ TEST_P(EveryKind, HelpDescribesIt) {
 INSTANTIATE_TEST_SUITE_P(, EveryKind, kindsThat([](const Kind&) { return true; }), nameOf);
 INSTANTIATE_TEST_SUITE_P(, EncodedKind, kindsThat([](const Kind& kind) { return kind.encode != nullptr; }), nameOf);
 INSTANTIATE_TEST_SUITE_P(, DecodedKind, kindsThat([](const Kind& kind) { return kind.decode != nullptr; }), nameOf);
+INSTANTIATE_TEST_SUITE_P(, DescribedKind, kindsThat([](const Kind& kind) { return kind.describe != nullptr; }), nameOf);
 INSTANTIATE_TEST_SUITE_P(, RoundTrippingKind, kindsThat([](const Kind& kind) { return kind.roundTrips; }), nameOf);

@@ -7,8 +7,10 @@
 #include <sstream>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <tools/dxmd/Tool.h>
+#include <tools/dxmd/json/Json.h>
 
 namespace dxmd_test {
 
@@ -17,7 +19,27 @@ ToolRun run(const std::vector<std::string>& args, const std::string& in) {
   std::ostringstream out;
   std::ostringstream err;
   const int status = dxmd_tool::runTool(args, input, out, err);
+  if (args.size() == 2 && args[0] == "encode" && status != dxmd_tool::kStatusUsage) keepEncoded(args[1], in, err.str());
   return {status, out.str(), err.str()};
+}
+
+std::string encoded(const std::string& kind, const std::string& json) {
+  const ToolRun result = run({"encode", kind}, json);
+  EXPECT_EQ("", result.err);
+  return result.out.substr(0, result.out.find('\n'));
+}
+
+std::string encodedBody(const std::string& kind, const std::string& json) {
+  const std::string xml = encoded(kind, json);
+  const std::size_t start = xml.find('>') + 1;
+  const std::size_t end = xml.find("<commandID");
+  return end == std::string::npos ? xml : xml.substr(start, end - start);
+}
+
+std::string decoded(const std::string& kind, const std::string& xml) {
+  const ToolRun result = run({"decode", kind, "--indent", "0", "--show-secrets"}, xml);
+  EXPECT_EQ("", result.err);
+  return result.out;
 }
 
 void expectFailure(dxmd_tool::Status status, const std::string& message, const ToolRun& run) {
@@ -45,6 +67,15 @@ void expectJsonError(dxmd_tool::JsonError::Cause cause, const std::string& messa
     EXPECT_EQ(message, error.what());
     EXPECT_EQ(cause, error.cause());
   }
+}
+
+void keepEncoded(const std::string& kind, const std::string& json, const std::string& refusal) {
+  const char* const folder = std::getenv("DXMD_TEST_ENCODED");
+  // What is no JSON is nothing for a schema.
+  if (folder == nullptr || !dxmd_tool::Json::accept(json)) return;
+  const dxmd_tool::Json kept = {{"kind", kind}, {"json", dxmd_tool::Json::parse(json)}, {"refusal", refusal}};
+  std::ofstream(folder + ("/" + std::to_string(::getpid())), std::ios::app)
+      << kept.dump(-1, ' ', false, dxmd_tool::Json::error_handler_t::replace) << "\n";
 }
 
 TempFolder::TempFolder() {

@@ -20,6 +20,15 @@ struct ToolRun {
 /// Runs the tool in this process.
 ToolRun run(const std::vector<std::string>& args, const std::string& in = "");
 
+/// Encodes JSON, which must succeed: one line, without its end.
+std::string encoded(const std::string& kind, const std::string& json);
+
+/// What encoding a command puts between the envelope's start and its identifiers.
+std::string encodedBody(const std::string& kind, const std::string& json);
+
+/// Decodes XML, which must succeed, with its secrets: one line of JSON, with its end.
+std::string decoded(const std::string& kind, const std::string& xml);
+
 /// Runs the tool, which must fail with that status, say exactly that behind "dxmd: ", and print nothing.
 void expectFailure(dxmd_tool::Status status, const std::string& message, const ToolRun& run);
 
@@ -29,6 +38,9 @@ void expectToolError(dxmd_tool::Status status, const std::string& message, const
 /// Runs the action, which must throw a JsonError of that cause and message.
 void expectJsonError(dxmd_tool::JsonError::Cause cause, const std::string& message,
                      const std::function<void()>& action);
+
+/// Keeps for SchemaTest.py what was encoded, or refused for that reason, where DXMD_TEST_ENCODED names a folder.
+void keepEncoded(const std::string& kind, const std::string& json, const std::string& refusal = "");
 
 /// A folder that goes with its content at the end of the test.
 class TempFolder {

@@ -3,14 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <tools/dxmd/json/Json.h>
+#include <tools/dxmd/shape/Shape.h>
 
 using namespace dxmd_tool;
 
 namespace {
 
-std::string masked(const std::string& text) {
+std::string masked(const std::string& text, const DescribedRecord* record = nullptr) {
   Json json = Json::parse(text);
-  maskSecrets(json);
+  maskSecrets(json, record);
   return json.dump();
 }
 
@@ -25,6 +26,27 @@ TEST(Secrets, NamesHideWhatStandsUnderThem) {
 TEST(Secrets, NamedValueIsHiddenByItsName) {
   EXPECT_EQ(R"([{"name":"password","value":"***"},{"name":"user","value":"u"}])",
             masked(R"([{"name":"password","value":"p"},{"name":"user","value":"u"}])"));
+}
+
+namespace {
+
+struct Card {
+  I18NString pin;
+  std::vector<Card> cards;
+};
+
+void shape(Shape& s, Card& card) {
+  s.optional("pin", card.pin, "What the owner knows", secret());
+  s.optional("cards", card.cards, "Cards within");
+}
+
+}  // namespace
+
+TEST(Secrets, DescriptionTellsMore) {
+  const Description description = describe<Card>();
+  EXPECT_EQ(
+      R"({"pin":"***","cards":[{"pin":"***"}],"link":"UID=u;PWD=***","other":{"pin":"1"}})",
+      masked(R"({"pin":"1","cards":[{"pin":"2"}],"link":"UID=u;PWD=p","other":{"pin":"1"}})", &description.whole()));
 }
 
 TEST(Secrets, ConnectionStringsKeepAllButPasswords) {

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <dxmd/core/ActionHandlerBase.h>
+#include <tools/dxmd/json/Json.h>
 
 #include "RunTool.h"
 #include "TestSupport.h"

@@ -1,7 +1,7 @@
 #include <string>
 
 #include <dxmd/modelactions/DXActionHelperObjectAccess.h>
-#include <dxmd/modelactions/DXActionHelperSecurityObjectSpec.h>
+#include <tools/dxmd/json/JsonWriter.h>
 #include <tools/dxmd/kinds/ModelActionsKinds.h>
 
 namespace dxmd_tool {
@@ -9,7 +9,6 @@ namespace dxmd_tool {
 namespace {
 
 using Access = DXActionHelperObjectAccess;
-using Spec = DXActionHelperSecurityObjectSpec;
 
 const EnumTable<Access::EObjectAccessRule> kRules{
     Access::kUnspecified, Access::kDeny,
@@ -62,49 +61,6 @@ Decoded decodeObjectAccess(TRNIDOM_Element& root, const KindOptions&) {
   return json;
 }
 
-TRNIDOM_Element encodeSecurityObjects(JsonObject& json, const KindOptions&) {
-  Spec spec;
-  TRNIDOM_Element element = made(spec);
-  json.required("securityObjects").objects([&](JsonObject& entry) {
-    const DXActionHelperSecurityObject principal = readPrincipal(entry);
-    std::vector<Spec::ViewInfo> views;
-    entry.optional("views").objects([&](JsonObject& view) {
-      Spec::ViewInfo info(filledText(view.required("viewref")));
-      view.optional("packagerefs").each([&](const JsonValue& reference) { info.addPackageRef(filledText(reference)); });
-      views.push_back(std::move(info));
-    });
-    spec.addEntry(principal, views);
-  });
-  return element;
-}
-
-Json toJson(const Spec::ViewInfo& view) {
-  Json json = Json::object();
-  json["viewref"] = view.getViewRef();
-  std::vector<I18NString> packageRefs;
-  view.getPackageRefs(packageRefs);
-  putUnlessEmpty(json, "packagerefs", Json(packageRefs));
-  return json;
-}
-
-Decoded decodeSecurityObjects(TRNIDOM_Element& root, const KindOptions&) {
-  Spec spec;
-  spec.Take(root);
-  Json list = Json::array();
-  std::vector<Spec::ViewInfo> views;
-  for (auto principal = spec.getEntry(views); !principal.isNull(); principal = spec.getEntry(views)) {
-    Json entry = toJson(*principal);
-    Json viewList = Json::array();
-    for (const Spec::ViewInfo& view : views) viewList.push_back(toJson(view));
-    putUnlessEmpty(entry, "views", std::move(viewList));
-    list.push_back(std::move(entry));
-    views.clear();
-  }
-  Json json = Json::object();
-  json["securityObjects"] = std::move(list);
-  return json;
-}
-
 }  // namespace
 
 Kind objectAccessKind() {
@@ -123,29 +79,6 @@ Reading takes whatever follows a principal for another one, and so refuses white
   "securityObjects": [
     {"cmSearchPath": "/directory/role[@name='Analysts']", "displayPath": "Roles > Analysts", "type": "role", "rule": "allow"},
     {"cmSearchPath": "/directory/account[@name='Ada']", "displayPath": "Users > Ada", "type": "account", "rule": "deny"}
-  ]
-})";
-  return kind;
-}
-
-Kind securityObjectsKind() {
-  Kind kind;
-  kind.name = "securityObjects";
-  kind.summary = "The views of a model that users, roles and groups are bound to";
-  kind.notes = R"(Reading takes the packages of a view from "view" elements inside it, while they are written as
-"packageref" elements: what was encoded decodes without "packagerefs".
-Reading refuses whatever follows a principal and is none, white space included.)";
-  kind.roots = {"securityObjects"};
-  kind.encode = encodeSecurityObjects;
-  kind.decode = decodeSecurityObjects;
-  kind.example = R"({
-  "securityObjects": [
-    {
-      "cmSearchPath": "/directory/group[@name='Sales']",
-      "displayPath": "Groups > Sales",
-      "type": "group",
-      "views": [{"viewref": "[Sales view]", "packagerefs": ["[Sales]", "[Sales and stock]"]}]
-    }
   ]
 })";
   return kind;

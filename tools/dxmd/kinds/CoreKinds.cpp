@@ -1,4 +1,5 @@
 #include <dxmd/core/DimensionInfoHelper.h>
+#include <tools/dxmd/json/JsonWriter.h>
 #include <tools/dxmd/kinds/Families.h>
 
 namespace dxmd_tool {

@@ -7,6 +7,7 @@
 #include <trnidom/TRNIDOM_NodeList.h>
 
 #include <dxmd/queryservice/QsDataSourceFaultHelper.h>
+#include <tools/dxmd/json/JsonWriter.h>
 #include <tools/dxmd/kinds/QueryServiceKinds.h>
 
 namespace dxmd_tool {

@@ -6,6 +6,7 @@
 #include <dxmd/modelactions/DXActionHelperIQDFile.h>
 #include <tools/dxmd/Files.h>
 #include <tools/dxmd/ToolError.h>
+#include <tools/dxmd/json/JsonWriter.h>
 #include <tools/dxmd/kinds/ModelActionsKinds.h>
 
 namespace dxmd_tool {

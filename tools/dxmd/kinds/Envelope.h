@@ -4,21 +4,13 @@
 #include <optional>
 
 #include <trn/I18NLocale.h>
-#include <trnidom/TRNIDOM_Element.h>
 
-#include <dxmd/queryframework/QFCommandHelper.h>
-#include <dxmd/queryframework/QFDXCommandHelper.h>
-#include <dxmd/queryframework/QFExecuteCommandHelper.h>
 #include <tools/dxmd/Kind.h>
+#include <tools/dxmd/kinds/queryframework/Envelope.h>
 
-// What every command's JSON may hold beside the command proper.
+// What every command's JSON may hold beside the command proper, for kinds that map by hand.
 
 namespace dxmd_tool {
-
-extern const EnumTable<QFExecuteCommandHelper::EQueryFeedback> kQueryFeedbacks;
-
-/// Builds the "connection" element from its JSON object.
-TRNIDOM_Element readConnection(JsonObject& json);
 
 /// Reads "commandID", "requestID" and "connection" into the command.
 void readEnvelope(JsonObject& json, QFCommandHelper& command);

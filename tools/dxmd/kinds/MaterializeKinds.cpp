@@ -6,6 +6,7 @@
 #include <dxmd/materialize/DXMaterializeRequestHelper.h>
 #include <dxmd/materialize/DXMaterializeResponseHelper.h>
 
+#include <tools/dxmd/json/JsonWriter.h>
 #include <tools/dxmd/kinds/Families.h>
 
 namespace dxmd_tool {

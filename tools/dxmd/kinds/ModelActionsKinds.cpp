@@ -7,7 +7,7 @@
 #include <dxmd/modelactions/DXActionHelperImportConfig.h>
 #include <dxmd/modelactions/DXActionHelperRetargetObjectReferences.h>
 #include <dxmd/modelactions/DXExternalizeReportHelper.h>
-#include <dxmd/modelactions/DXPackagesReportHelper.h>
+#include <tools/dxmd/json/JsonWriter.h>
 #include <tools/dxmd/kinds/Families.h>
 
 namespace dxmd_tool {
@@ -152,26 +152,6 @@ Decoded decodeExternalizeReport(TRNIDOM_Element& root, const KindOptions&) {
   return json;
 }
 
-TRNIDOM_Element encodePackages(JsonObject& json, const KindOptions&) {
-  DXPackagesReportHelper report;
-  json.required("packages").objects([&](JsonObject& package) {
-    const I18NString defaultName = package.required("defaultName").text();
-    report.AddPackage(defaultName, package.required("cmSearchPath").text());
-  });
-  return made(report);
-}
-
-Decoded decodePackages(TRNIDOM_Element& root, const KindOptions&) {
-  DXPackagesReportHelper report;
-  report.Take(root);
-  Json packages = Json::array();
-  for (const DXPackagesReportHelper::Package* package : report.GetPackages())
-    packages.push_back(Json{{"defaultName", package->defaultName}, {"cmSearchPath", package->searchPath}});
-  Json json = Json::object();
-  json["packages"] = std::move(packages);
-  return json;
-}
-
 Kind dbConnectionsKind() {
   Kind kind;
   kind.name = "dbConnections";
@@ -260,28 +240,11 @@ attribute, and reads no error: what was encoded decodes without "path" and "erro
   return kind;
 }
 
-Kind packagesKind() {
-  Kind kind;
-  kind.name = "packages";
-  kind.summary = "The published packages of a model";
-  kind.roots = {"packages"};
-  kind.encode = encodePackages;
-  kind.decode = decodePackages;
-  kind.roundTrips = true;
-  kind.example = R"({
-  "packages": [
-    {"defaultName": "Sales", "cmSearchPath": "/content/package[@name='Sales']"},
-    {"defaultName": "Stock", "cmSearchPath": "/content/package[@name='Stock']"}
-  ]
-})";
-  return kind;
-}
-
 }  // namespace
 
 std::vector<Kind> modelActionsKinds() {
-  return {dbConnectionsKind(), definitionFileKind(), objectAccessKind(),      securityObjectsKind(),
-          importConfigKind(),  retargetKind(),       externalizeReportKind(), packagesKind()};
+  return {dbConnectionsKind(), definitionFileKind(), objectAccessKind(),
+          importConfigKind(),  retargetKind(),       externalizeReportKind()};
 }
 
 }  // namespace dxmd_tool

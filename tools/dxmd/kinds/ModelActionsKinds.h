@@ -9,7 +9,6 @@ namespace dxmd_tool {
 
 Kind definitionFileKind();
 Kind objectAccessKind();
-Kind securityObjectsKind();
 
 }  // namespace dxmd_tool
 

@@ -4,6 +4,7 @@
 #include <dxmd/modelanalysis/DXModelAnalysisRequestHelper.h>
 #include <dxmd/modelanalysis/DXModelAnalysisResponseHelper.h>
 
+#include <tools/dxmd/json/JsonWriter.h>
 #include <tools/dxmd/kinds/Families.h>
 
 namespace dxmd_tool {

@@ -6,6 +6,7 @@
 #include <dxmd/queryservice/QsParamValueItemNullHelper.h>
 #include <dxmd/queryservice/QsParamValueItemRangeHelper.h>
 #include <dxmd/queryservice/QsParamValueItemSimpleHelper.h>
+#include <tools/dxmd/json/JsonWriter.h>
 #include <tools/dxmd/kinds/QueryServiceKinds.h>
 
 namespace dxmd_tool {

@@ -5,12 +5,12 @@
 #include <vector>
 
 #include <dxmd/queryengine/VqeCancelQueryHelper.h>
-#include <dxmd/queryengine/VqeExpandParameterHelper.h>
 #include <dxmd/queryengine/VqeGetJoinPathsHelper.h>
 #include <dxmd/queryengine/VqeGetParametersHelper.h>
 #include <dxmd/queryengine/VqeQuerySubjectHelper.h>
 #include <dxmd/queryengine/VqeRefineObjectsHelper.h>
 #include <dxmd/queryengine/VqeTestConnectionHelper.h>
+#include <tools/dxmd/json/JsonWriter.h>
 #include <tools/dxmd/kinds/Envelope.h>
 #include <tools/dxmd/kinds/Families.h>
 
@@ -55,44 +55,6 @@ given; the request cancelled is always "DXRequest". "connection" is what the kin
   "requestID": "CancelRequest7",
   "connection": {"passport": "101:5f3c", "runLocale": "en"}
 })";
-  return kind;
-}
-
-TRNIDOM_Element encodeExpandParameter(JsonObject& json, const KindOptions&) {
-  VqeExpandParameterHelper expand(json.required("modelPath").text());
-  std::optional<I18NLocale> locale;
-  readDXEnvelope(json, expand, locale);
-  expand.SetParameterisedValue(json.required("expression").text());
-  return made(expand);
-}
-
-Kind expandParameterKind() {
-  Kind kind = command("expandParameter", "Command to expand a parameterised expression", kDXEnvelopeNotes);
-  kind.encode = encodeExpandParameter;
-  kind.example = R"({
-  "modelPath": "/content/package[@name='Sales']/model[@name='2024']",
-  "expression": "[Sales].[Orders].[Year] = ?Year?",
-  "queryLocale": "en-gb",
-  "queryFeedback": ["nativeCommandText", "connections"],
-  "commandID": "Expand7",
-  "requestID": "Request7",
-  "connection": {"passport": "101:5f3c", "runLocale": "en"}
-})";
-  return kind;
-}
-
-Decoded decodeExpansionResult(TRNIDOM_Element& root, const KindOptions&) {
-  VqeExpandParameterHelper expand("");
-  expand.Take(root);
-  Json json = Json::object();
-  json["expansionResult"] = expand.GetExpandedQuery();
-  return json;
-}
-
-Kind expansionResultKind() {
-  Kind kind = reply("expansionResult", "Reply to expandParameter", "expansionResult");
-  kind.decode = decodeExpansionResult;
-  kind.example = "<response><expansionResult>[Sales].[Orders].[Year] = 2024</expansionResult></response>";
   return kind;
 }
 
@@ -290,8 +252,8 @@ Kind testConnectionKind() {
 }  // namespace
 
 std::vector<Kind> queryEngineKinds() {
-  return {cancelQueryKind(),  expandParameterKind(), expansionResultKind(), getParametersKind(),  querySubjectKind(),
-          getJoinPathsKind(), joinPathsKind(),       refineObjectsKind(),   refinedObjectsKind(), testConnectionKind()};
+  return {cancelQueryKind(), getParametersKind(), querySubjectKind(),   getJoinPathsKind(),
+          joinPathsKind(),   refineObjectsKind(), refinedObjectsKind(), testConnectionKind()};
 }
 
 }  // namespace dxmd_tool

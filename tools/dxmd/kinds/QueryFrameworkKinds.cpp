@@ -1,25 +1,17 @@
-#include "QueryFrameworkKinds.h"
-
 #include <trn/TRNSeverity.h>
 #include <trnidom/TRNIDOM_DOMImplementation.h>
 #include <trnidom/TRNIDOM_Document.h>
 #include <trnidom/TRNIDOM_DocumentType.h>
 
-#include <dxmd/queryframework/QFCloseConnectionsCommandHelper.h>
 #include <dxmd/queryframework/QFUpdateCommandHelper.h>
 #include <dxmd/queryframework/QFValidateCommandHelper.h>
+#include <tools/dxmd/json/JsonWriter.h>
 #include <tools/dxmd/kinds/Envelope.h>
 #include <tools/dxmd/kinds/Families.h>
 
 namespace dxmd_tool {
 
 namespace {
-
-TRNIDOM_Element encodeCloseConnections(JsonObject& json, const KindOptions&) {
-  QFCloseConnectionsCommandHelper command;
-  readEnvelope(json, command);
-  return made(command);
-}
 
 TRNIDOM_Element encodeUpdate(JsonObject& json, const KindOptions&) {
   QFUpdateCommandHelper command(json.required("modelPath").text());
@@ -54,21 +46,6 @@ Decoded decodeValidateReply(TRNIDOM_Element& root, const KindOptions&) {
   json["severity"] = severity <= kSeverityInformation ? texts[severity] : "none";
   json["messages"] = messages;
   return json;
-}
-
-Kind closeConnectionsKind() {
-  Kind kind;
-  kind.name = "closeConnections";
-  kind.summary = "Command to close the connections of the service";
-  kind.notes = kEnvelopeNotes;
-  kind.roots = {"command"};
-  kind.encode = encodeCloseConnections;
-  kind.example = R"({
-  "commandID": "Close7",
-  "requestID": "Request7",
-  "connection": {"passport": "101:5f3c", "runLocale": "en"}
-})";
-  return kind;
 }
 
 Kind updateKind() {
@@ -121,7 +98,7 @@ lowers it, and so does information after any other.)";
 }  // namespace
 
 std::vector<Kind> queryFrameworkKinds() {
-  return {executeKind(), responseKind(), closeConnectionsKind(), validateKind(), validateReplyKind(), updateKind()};
+  return {validateKind(), validateReplyKind(), updateKind()};
 }
 
 }  // namespace dxmd_tool

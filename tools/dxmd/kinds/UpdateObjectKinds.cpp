@@ -8,6 +8,7 @@
 
 #include <tools/dxmd/Files.h>
 #include <tools/dxmd/json/JsonParser.h>
+#include <tools/dxmd/json/JsonWriter.h>
 #include <tools/dxmd/kinds/Families.h>
 
 namespace dxmd_tool {

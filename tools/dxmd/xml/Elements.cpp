@@ -1,0 +1,100 @@
+#include "Elements.h"
+
+#include <trnidom/TRNIDOM_DOMImplementation.h>
+#include <trnidom/TRNIDOM_Document.h>
+#include <trnidom/TRNIDOM_DocumentType.h>
+#include <trnidom/TRNIDOM_Helper.h>
+
+namespace dxmd_tool {
+
+namespace {
+
+bool isElementOf(const TRNIDOM_Node& node, const I18NString& name) {
+  return node.getNodeType() == TRNIDOM_Node::ELEMENT_NODE && (name.empty() || node.getNodeName() == name);
+}
+
+TRNIDOM_Element firstFrom(TRNIDOM_Node node, const I18NString& name) {
+  while (!node.isNull() && !isElementOf(node, name)) node = node.getNextSibling();
+  return node;
+}
+
+/// `query[2]`, or `query` where it is the only one of its name.
+std::string step(const TRNIDOM_Node& node) {
+  const I18NString name = node.getNodeName();
+  std::size_t position = 1;
+  for (TRNIDOM_Node before = node.getPreviousSibling(); !before.isNull(); before = before.getPreviousSibling())
+    if (isElementOf(before, name)) ++position;
+  const bool isOnly = position == 1 && nextSibling(node, name).isNull();
+  return "/" + name.toUtf8() + (isOnly ? "" : "[" + std::to_string(position) + "]");
+}
+
+}  // namespace
+
+TRNIDOM_Element newElement(const I18NString& name) {
+  return TRNIDOM_DOMImplementation::getInstance().createDocument("", name, TRNIDOM_DocumentType()).getDocumentElement();
+}
+
+TRNIDOM_Element appendElement(TRNIDOM_Element parent, const I18NString& name) {
+  return parent.appendChild(parent.getOwnerDocument().createElement(name));
+}
+
+TRNIDOM_Element appendElement(TRNIDOM_Element parent, const I18NString& name, const I18NString& attrName,
+                              const I18NString& attrValue) {
+  TRNIDOM_Element element = appendElement(std::move(parent), name);
+  element.setAttribute(attrName, attrValue);
+  return element;
+}
+
+TRNIDOM_Element appendTextElement(TRNIDOM_Element parent, const I18NString& name, const I18NString& text) {
+  TRNIDOM_Element element = appendElement(std::move(parent), name);
+  if (!text.empty()) element.appendChild(element.getOwnerDocument().createTextNode(text));
+  return element;
+}
+
+void setUnlessEmpty(TRNIDOM_Element element, const I18NString& attrName, const I18NString& attrValue) {
+  if (!attrValue.empty()) element.setAttribute(attrName, attrValue);
+}
+
+TRNIDOM_Element firstChild(const TRNIDOM_Node& parent, const I18NString& name) {
+  return firstFrom(parent.getFirstChild(), name);
+}
+
+TRNIDOM_Element nextSibling(const TRNIDOM_Node& node, const I18NString& name) {
+  return firstFrom(node.getNextSibling(), name);
+}
+
+TRNIDOM_Element requiredChild(const TRNIDOM_Node& parent, const I18NString& name) {
+  TRNIDOM_Element child = firstChild(parent, name);
+  if (child.isNull()) refuse(parent, "the element " + inQuotes(name.toUtf8()) + " is missing");
+  return child;
+}
+
+I18NString textOf(const TRNIDOM_Node& element) {
+  return TRNIDOM_Helper::getElementText(element);
+}
+
+I18NString childText(const TRNIDOM_Node& parent, const I18NString& name) {
+  return textOf(firstChild(parent, name));
+}
+
+std::optional<I18NString> attribute(const TRNIDOM_Element& element, const I18NString& name) {
+  if (!element.hasAttribute(name)) return std::nullopt;
+  return element.getAttribute(name);
+}
+
+void refuse(const TRNIDOM_Node& at, const std::string& reason) {
+  std::string path;
+  for (TRNIDOM_Node node = at; node.getNodeType() == TRNIDOM_Node::ELEMENT_NODE; node = node.getParentNode())
+    path.insert(0, step(node));
+  throw XmlError(path + ": " + reason);
+}
+
+bool boolean(const TRNIDOM_Element& element, const I18NString& attrName) {
+  const I18NString text = element.getAttribute(attrName);
+  if (text == "true") return true;
+  if (!text.empty() && text != "false")
+    refuse(element, "\"" + attrName.toUtf8() + "\" is " + inQuotes(text.toUtf8()) + ", neither true nor false");
+  return false;
+}
+
+}  // namespace dxmd_tool
