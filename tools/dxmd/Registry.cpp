@@ -18,7 +18,7 @@ const std::vector<Kind>& allKinds() {
 #include <tools/dxmd/kinds/kinds.def>
 #undef DXMD_KIND
     for (const auto family : {queryFrameworkKinds, queryServiceKinds, queryEngineKinds, coreKinds, modelActionsKinds,
-                              updateObjectKinds, materializeKinds, modelAnalysisKinds}) {
+                              materializeKinds, modelAnalysisKinds}) {
       std::vector<Kind> some = family();
       all.insert(all.end(), std::make_move_iterator(some.begin()), std::make_move_iterator(some.end()));
     }

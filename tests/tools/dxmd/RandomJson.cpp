@@ -64,7 +64,10 @@ Json RandomJson::object(const DescribedRecord& record, int depth) {
   std::set<std::string> excluded;
   std::set<std::string> chosen;
   for (const DescribedRule& rule : record.rules) {
-    const std::string& may = rule.keys[below(rule.keys.size())];
+    // A key that an earlier rule chose stays.
+    const auto earlier =
+        std::find_if(rule.keys.begin(), rule.keys.end(), [&](const auto& key) { return chosen.count(key) != 0; });
+    const std::string& may = earlier == rule.keys.end() ? rule.keys[below(rule.keys.size())] : *earlier;
     for (const std::string& key : rule.keys)
       if (key != may) excluded.insert(key);
     if (rule.of == DescribedRule::kOneOf) chosen.insert(may);

@@ -16,7 +16,6 @@ std::vector<Kind> modelAnalysisKinds();
 std::vector<Kind> queryEngineKinds();
 std::vector<Kind> queryFrameworkKinds();
 std::vector<Kind> queryServiceKinds();
-std::vector<Kind> updateObjectKinds();
 
 }  // namespace dxmd_tool
 

@@ -4,6 +4,7 @@
 #include <trnidom/TRNIDOM_Document.h>
 #include <trnidom/TRNIDOM_DocumentType.h>
 #include <trnidom/TRNIDOM_Helper.h>
+#include <trnidom/TRNIDOM_NodeList.h>
 
 namespace dxmd_tool {
 
@@ -80,6 +81,13 @@ I18NString childText(const TRNIDOM_Node& parent, const I18NString& name) {
 std::optional<I18NString> attribute(const TRNIDOM_Element& element, const I18NString& name) {
   if (!element.hasAttribute(name)) return std::nullopt;
   return element.getAttribute(name);
+}
+
+void refuseNested(const TRNIDOM_Element& root, const I18NString& name) {
+  // As long as none holds another, no two are searched that overlap.
+  for (const TRNIDOM_Node outer : root.getElementsByTagName(name))
+    if (const TRNIDOM_Element inner = TRNIDOM_Helper::findFirstElement(outer, name); !inner.isNull())
+      refuse(inner, "it stands inside another " + inQuotes(name.toUtf8()));
 }
 
 void refuse(const TRNIDOM_Node& at, const std::string& reason) {

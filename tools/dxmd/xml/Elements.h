@@ -48,6 +48,10 @@ I18NString childText(const TRNIDOM_Node& parent, const I18NString& name);
 /// The attribute, if it is there.
 std::optional<I18NString> attribute(const TRNIDOM_Element& element, const I18NString& name);
 
+/// Refuses an element of that name inside another: to readers that search at any depth its parts belong to both.
+/// @throws XmlError
+void refuseNested(const TRNIDOM_Element& root, const I18NString& name);
+
 /// Refuses the document.
 [[noreturn]] void refuse(const TRNIDOM_Node& at, const std::string& reason);
 
