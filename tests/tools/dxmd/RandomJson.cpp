@@ -21,6 +21,11 @@ const Loss* lossOf(const DescribedKey& key, Loss::How how) {
   return nullptr;
 }
 
+bool isLostChoice(const DescribedKey& key, const Json& value) {
+  return std::any_of(key.losses.begin(), key.losses.end(),
+                     [&](const Loss& loss) { return loss.how == Loss::kChoice && loss.key == value; });
+}
+
 /// What tells two items of a list apart: themselves, or the member that the loss names.
 const Json& distinction(const Json& item, const Loss& loss) {
   return loss.key.empty() ? item : item.at(loss.key);
@@ -85,6 +90,7 @@ Json RandomJson::object(const DescribedRecord& record, int depth) {
       Json made = value(key.type, key, depth + 1);
       const bool isEmpty = made == "" || made == Json::array();
       if (isEmpty && (key.nonEmpty || lossOf(key, Loss::kEmpty) != nullptr)) continue;
+      if (isLostChoice(key, made)) continue;
       if (!must && !key.otherwise.empty() && made == Json::parse(key.otherwise)) continue;
       json[key.name] = std::move(made);
       break;
@@ -122,6 +128,7 @@ Json RandomJson::list(const DescribedType& type, const DescribedKey& key, int de
   for (std::size_t left = depth > kDeepest ? 1 : below(4); left > 0; --left) {
     Json item = value(*type.item, key, depth);
     if (item == "" && (key.nonEmptyItems || lossOf(key, Loss::kEmpty) != nullptr)) continue;
+    if (isLostChoice(key, item)) continue;
     items.push_back(std::move(item));
   }
   if (const Loss* loss = lossOf(key, Loss::kRepeated)) removeRepeated(items, *loss);

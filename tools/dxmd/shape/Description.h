@@ -42,7 +42,8 @@ struct Loss {
     kNever,     ///< the value is not read
     kEmpty,     ///< an empty text is not written, or not read
     kRepeated,  ///< of items that are the same, or have the same member `key`, one is left or they are changed
-    kOrder      ///< items are sorted, by the member `key` if there is one
+    kOrder,     ///< items are sorted, by the member `key` if there is one
+    kChoice     ///< of the texts allowed, `key` comes back as another
   };
 
   How how;

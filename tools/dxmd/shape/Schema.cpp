@@ -266,6 +266,8 @@ const char* nameOf(Loss::How how) {
       return "repeated";
     case Loss::kOrder:
       return "order";
+    case Loss::kChoice:
+      return "choice";
   }
   return "";
 }

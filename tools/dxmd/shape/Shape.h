@@ -92,6 +92,9 @@ constexpr KeyFact emptyIsLost(const char* why) {
 constexpr KeyFact repeatedIsLost(const char* why, const char* key = "") {
   return {KeyFact::kLoss, why, key, Loss::kRepeated};
 }
+constexpr KeyFact choiceIsLost(const char* why, const char* choice) {
+  return {KeyFact::kLoss, why, choice, Loss::kChoice};
+}
 constexpr KeyFact orderIsLost(const char* why, const char* key = "") {
   return {KeyFact::kLoss, why, key, Loss::kOrder};
 }
