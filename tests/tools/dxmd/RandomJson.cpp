@@ -69,6 +69,7 @@ Json RandomJson::object(const DescribedRecord& record, int depth) {
   std::set<std::string> excluded;
   std::set<std::string> chosen;
   for (const DescribedRule& rule : record.rules) {
+    if (rule.of == DescribedRule::kNeedsTrue) continue;
     // A key that an earlier rule chose stays.
     const auto earlier =
         std::find_if(rule.keys.begin(), rule.keys.end(), [&](const auto& key) { return chosen.count(key) != 0; });
@@ -88,6 +89,7 @@ Json RandomJson::object(const DescribedRecord& record, int depth) {
     if (!must && (depth > kDeepest || oneIn(2))) continue;
     for (int attempt = 0; attempt < 20; ++attempt) {
       Json made = value(key.type, key, depth + 1);
+      if (key.lines && made != "") made = made.get<std::string>() + "\n";
       const bool isEmpty = made == "" || made == Json::array();
       if (isEmpty && (key.nonEmpty || lossOf(key, Loss::kEmpty) != nullptr)) continue;
       if (isLostChoice(key, made)) continue;
@@ -96,6 +98,9 @@ Json RandomJson::object(const DescribedRecord& record, int depth) {
       break;
     }
   }
+  for (const DescribedRule& rule : record.rules)
+    if (rule.of == DescribedRule::kNeedsTrue && json.contains(rule.keys[0]) && !json[rule.keys[0]].empty())
+      json[rule.keys[1]] = true;
   return json;
 }
 

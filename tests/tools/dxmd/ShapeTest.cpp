@@ -50,20 +50,35 @@ void shape(Shape& s, Plant& plant) {
   s.shown("isTree", plant.isTree, "Whether it is a tree");
 }
 
-Plant plantOf(const std::string& text) {
-  Plant plant;
-  readObject(Json::parse(text), "in", [&](JsonObject& json) { readRecord(json, plant); });
-  return plant;
+struct Bed {
+  bool isDug = false;
+  std::vector<I18NString> rows;
+  I18NString diary;
+};
+
+void shape(Shape& s, Bed& bed) {
+  s.needsTrue("rows", "isDug");
+  s.shown("isDug", bed.isDug, "Whether it is dug");
+  s.optional("rows", bed.rows, "What grows in it");
+  s.optional("diary", bed.diary, "What was done", lines());
+}
+
+template <typename Record = Plant>
+Record recordOf(const std::string& text) {
+  Record record;
+  readObject(Json::parse(text), "in", [&](JsonObject& json) { readRecord(json, record); });
+  return record;
 }
 
 std::string again(const std::string& text) {
   Json json;
-  writeRecord(json, plantOf(text));
+  writeRecord(json, recordOf(text));
   return json.dump();
 }
 
+template <typename Record = Plant>
 void expectRefused(const std::string& message, const std::string& text) {
-  expectJsonError(JsonError::kUnfit, message, [&] { plantOf(text); });
+  expectJsonError(JsonError::kUnfit, message, [&] { recordOf<Record>(text); });
 }
 
 }  // namespace
@@ -91,6 +106,30 @@ TEST(Shape, RefusalsNameThePlaceAndTheKeys) {
   expectRefused("in: $.leaf.size: the number is not from 0 to 255", R"({"leaf": {"colour": "red", "size": 256}})");
   expectRefused(R"(in: $.colours[1]: "no colour" is none of "red", "blue")",
                 R"({"name": "x", "colours": ["red", "no colour"]})");
+}
+
+TEST(Shape, ListMayNeedABooleanAndLinesEnd) {
+  const std::string needed = R"(in: $: "rows" needs "isDug" to be true)";
+  expectRefused<Bed>(needed, R"({"rows": ["beans"]})");
+  expectRefused<Bed>(needed, R"({"isDug": false, "rows": ["beans"]})");
+  expectRefused<Bed>("in: $.isDug: expected true or false, found a number", R"({"isDug": 1, "rows": ["beans"]})");
+  expectRefused<Bed>("in: $.rows: expected a list, found a text", R"({"rows": "beans"})");
+  expectRefused<Bed>("in: $.diary: must end with a line feed", R"({"diary": "dug\nsown"})");
+  EXPECT_EQ(1u, recordOf<Bed>(R"({"isDug": true, "rows": ["beans"], "diary": "dug\n"})").rows.size());
+  EXPECT_FALSE(recordOf<Bed>(R"({"rows": [], "diary": ""})").isDug);
+
+  EXPECT_EQ(
+      "  isDug  boolean. Whether it is dug. By default false.\n"
+      "  rows   list of texts. What grows in it.\n"
+      "  diary  text. What was done. Each line ends with a line feed.\n"
+      "         \"rows\" needs \"isDug\" to be true.\n",
+      keysAsText(describe<Bed>()));
+  const Json schema = schemaOf(describe<Bed>(), "bed", "A bed");
+  EXPECT_EQ(Json("(^|\n)$"), schema["properties"]["diary"]["pattern"]);
+  EXPECT_EQ(Json::parse(R"([{"if": {"properties": {"rows": {"minItems": 1}}, "required": ["rows"]},
+                             "then": {"properties": {"isDug": {"const": true}}, "required": ["isDug"]}}])"),
+            schema["allOf"]);
+  EXPECT_EQ(Json::parse(R"([{"needsTrue": ["rows", "isDug"]}])"), keysOf(describe<Bed>())["rules"]);
 }
 
 TEST(Shape, HelpSaysAllThatIsKnown) {

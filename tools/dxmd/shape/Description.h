@@ -60,6 +60,7 @@ struct DescribedKey {
   bool nonEmpty = false;       ///< an empty text or list is refused
   bool nonEmptyItems = false;  ///< an empty text in a list of texts is refused
   bool elementNames = false;   ///< the keys of an object of texts must be names of elements
+  bool lines = false;          ///< a text that is not empty ends with a line feed
   bool secret = false;
   std::string otherwise;  ///< what the key is when it is absent, as JSON; empty when that is no value of its type
   std::string kind;       ///< the kind whose JSON it takes, if there is one
@@ -69,9 +70,13 @@ struct DescribedKey {
 
 /// What holds among the keys of a record.
 struct DescribedRule {
-  enum Of { kExclusive, kOneOf };
+  enum Of {
+    kExclusive,  ///< at most one is there
+    kOneOf,      ///< exactly one is there
+    kNeedsTrue   ///< the first is a list; unless it is empty, the second is true
+  };
 
-  Of of;  ///< at most one, or exactly one
+  Of of;
   std::vector<std::string> keys;
 };
 

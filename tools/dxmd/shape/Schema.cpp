@@ -71,6 +71,14 @@ class SchemaWriter {
       json["allOf"].push_back(Json{{"oneOf", std::move(one)}});
       return;
     }
+    if (rule.of == DescribedRule::kNeedsTrue) {
+      const auto among = [](const std::string& key, const Json& value) {
+        return Json{{"properties", Json{{key, value}}}, {"required", {key}}};
+      };
+      json["allOf"].push_back(Json{{"if", among(rule.keys[0], Json{{"minItems", 1}})},
+                                   {"then", among(rule.keys[1], Json{{"const", true}})}});
+      return;
+    }
     for (std::size_t i = 0; i < rule.keys.size(); ++i)
       for (std::size_t j = i + 1; j < rule.keys.size(); ++j)
         json["allOf"].push_back(Json{{"not", Json{{"required", {rule.keys[i], rule.keys[j]}}}}});
@@ -82,6 +90,7 @@ class SchemaWriter {
     json["description"] = key.meaning;
     if (key.nonEmpty) json[key.type.of == DescribedType::kList ? "minItems" : "minLength"] = 1;
     if (key.nonEmptyItems) json["items"]["minLength"] = 1;
+    if (key.lines) json["pattern"] = "(^|\n)$";
     if (key.elementNames) json["propertyNames"] = Json{{"pattern", kElementName}};
     if (!key.otherwise.empty()) json["default"] = Json::parse(key.otherwise);
     return json;
@@ -170,6 +179,26 @@ std::string inWords(const DescribedType& type) {
   return "list of " + item.substr(0, noun) + "s" + item.substr(noun);
 }
 
+std::string inWords(const DescribedRule& rule) {
+  if (rule.of == DescribedRule::kNeedsTrue)
+    return inQuotes(rule.keys[0]) + " needs " + inQuotes(rule.keys[1]) + " to be true.";
+  std::string keys;
+  for (const std::string& key : rule.keys) keys += (keys.empty() ? "" : ", ") + inQuotes(key);
+  return (rule.of == DescribedRule::kOneOf ? "Exactly" : "At most") + (" one of " + keys + " may be there.");
+}
+
+const char* nameOf(DescribedRule::Of of) {
+  switch (of) {
+    case DescribedRule::kExclusive:
+      return "exclusive";
+    case DescribedRule::kOneOf:
+      return "oneOf";
+    case DescribedRule::kNeedsTrue:
+      return "needsTrue";
+  }
+  return "";
+}
+
 const DescribedType& innermost(const DescribedType& type) {
   const DescribedType* inner = &type;
   while (inner->item) inner = inner->item.get();
@@ -193,6 +222,7 @@ std::string factsOf(const DescribedKey& key) {
   if (key.nonEmpty) add("Not empty");
   if (key.nonEmptyItems) add("No text in it is empty");
   if (key.elementNames) add("Keys are names of elements");
+  if (key.lines) add("Each line ends with a line feed");
   const std::string& otherwise = key.otherwise;
   if (!otherwise.empty() && otherwise != "\"\"" && otherwise != "[]" && otherwise != "{}")
     add("By default " + otherwise);
@@ -225,12 +255,7 @@ class KeyLines {
                                                                     ". " + key.meaning + "." + factsOf(key) + again);
       if (below != nullptr && !isOpen && key.kind.empty()) gather(*below, indent + 2);
     }
-    for (const DescribedRule& rule : record.rules) {
-      std::string keys;
-      for (const std::string& key : rule.keys) keys += (keys.empty() ? "" : ", ") + inQuotes(key);
-      m_items.emplace_back(std::string(indent, ' '), (rule.of == DescribedRule::kOneOf ? "Exactly" : "At most") +
-                                                         (" one of " + keys + " may be there."));
-    }
+    for (const DescribedRule& rule : record.rules) m_items.emplace_back(std::string(indent, ' '), inWords(rule));
     m_open.pop_back();
   }
 
@@ -279,8 +304,7 @@ class KeysForPrograms {
     m_open.push_back(&record);
     json["keys"] = Json::array();
     for (const DescribedKey& each : record.keys) json["keys"].push_back(key(each));
-    for (const DescribedRule& rule : record.rules)
-      json["rules"].push_back(Json{{rule.of == DescribedRule::kOneOf ? "oneOf" : "exclusive", rule.keys}});
+    for (const DescribedRule& rule : record.rules) json["rules"].push_back(Json{{nameOf(rule.of), rule.keys}});
     m_open.pop_back();
   }
 
@@ -298,6 +322,7 @@ class KeysForPrograms {
     if (!key.otherwise.empty()) json["default"] = Json::parse(key.otherwise);
     if (key.nonEmpty) json["nonEmpty"] = true;
     if (key.nonEmptyItems) json["nonEmptyItems"] = true;
+    if (key.lines) json["lines"] = true;
     if (key.secret) json["secret"] = true;
     for (const Loss& loss : key.losses) json["lost"].push_back(Json{{"what", nameOf(loss.how)}, {"why", loss.why}});
     if (inner.record == nullptr) return json;

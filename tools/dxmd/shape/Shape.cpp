@@ -28,6 +28,9 @@ class Reader final : public Shape {
     value.read(json);
     const KeyFact* const nonEmpty = key.find(KeyFact::kNonEmpty);
     if (nonEmpty != nullptr && (json.isText() ? json.text().empty() : json.size() == 0)) json.fail(nonEmpty->text);
+    if (key.find(KeyFact::kLines) != nullptr)
+      if (const std::string text = json.text().toUtf8(); !text.empty() && text.back() != '\n')
+        json.fail("must end with a line feed");
     if (key.find(KeyFact::kNonEmptyItems) != nullptr)
       json.each([](const JsonValue& item) {
         if (item.text().empty()) item.fail("must not be empty");
@@ -35,6 +38,12 @@ class Reader final : public Shape {
   }
 
   void rule(DescribedRule::Of of, const std::vector<std::string>& keys) override {
+    if (of == DescribedRule::kNeedsTrue) {
+      const JsonValue list = m_json.optional(keys[0]);
+      if (list.isList() && list.size() != 0 && !m_json.optional(keys[1]).boolean())
+        m_json.fail(inQuotes(keys[0]) + " needs " + inQuotes(keys[1]) + " to be true");
+      return;
+    }
     std::size_t present = 0;
     for (const std::string& key : keys)
       if (m_json.has(key)) ++present;
@@ -121,6 +130,9 @@ class Describer final : public Shape {
         break;
       case KeyFact::kElementNames:
         described.elementNames = true;
+        break;
+      case KeyFact::kLines:
+        described.lines = true;
         break;
       case KeyFact::kLoss:
         described.losses.push_back({fact.how, fact.text, fact.key});

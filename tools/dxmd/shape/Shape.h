@@ -51,7 +51,7 @@ namespace dxmd_tool {
 
 /// A fact about a key, which stands behind its meaning.
 struct KeyFact {
-  enum What { kNone, kNonEmpty, kNonEmptyItems, kSecret, kAsKind, kElementNames, kByHand, kLoss };
+  enum What { kNone, kNonEmpty, kNonEmptyItems, kSecret, kAsKind, kElementNames, kLines, kByHand, kLoss };
 
   What what = kNone;
   const char* text = "";
@@ -78,6 +78,10 @@ constexpr KeyFact asKind(const char* kind) {
 /// The keys of an object of texts are names of elements.
 constexpr KeyFact elementNames() {
   return {KeyFact::kElementNames};
+}
+/// A text of lines, each of which a line feed ends, the last one too.
+constexpr KeyFact lines() {
+  return {KeyFact::kLines};
 }
 
 // What of the value is not there again, and why, when what was encoded is decoded (see `Loss`). Help shows it, and the
@@ -198,6 +202,9 @@ class Shape {
 
   /// Exactly one of these keys must be there. Stands before them; each is `optional`.
   void oneOf(std::initializer_list<const char*> keys) { rule(DescribedRule::kOneOf, keys); }
+
+  /// Unless the list is empty, the boolean must be true. Stands before both.
+  void needsTrue(const char* list, const char* boolean) { rule(DescribedRule::kNeedsTrue, {list, boolean}); }
 
  protected:
   ~Shape() = default;
