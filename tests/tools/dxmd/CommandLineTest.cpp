@@ -42,7 +42,8 @@ TEST(CommandLine, WrongUsageIsStatus2) {
                 run({"encode", "--x", "execute"}));
   expectFailure(kStatusUsage, "the kind importConfig is only read: dxmd decode importConfig",
                 run({"encode", "importConfig"}));
-  expectFailure(kStatusUsage, "the kind update is only written: dxmd encode update", run({"decode", "update"}));
+  expectFailure(kStatusUsage, "the kind analyzeModelResponse is only written: dxmd encode analyzeModelResponse",
+                run({"decode", "analyzeModelResponse"}));
   EXPECT_TRUE(has(run({"decode", "nonsense"}).err, "\"nonsense\" is no kind of message; the kinds are execute, "));
   EXPECT_TRUE(has(run({"kinds", "nonsense"}).err, "\"nonsense\" is no kind of message"));
 }

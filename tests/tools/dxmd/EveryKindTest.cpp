@@ -210,7 +210,10 @@ TEST(EveryKindThatComesBackWhole, IsListed) {
                                           "materializeRequest",
                                           "materializeResponse",
                                           "analyzeModelRequest",
-                                          "analyzeModelResponse"};
+                                          "analyzeModelResponse",
+                                          "validate",
+                                          "validateReply",
+                                          "update"};
   std::set<std::string> whole;
   for (const Kind& kind : allKinds())
     if (kind.describe && !losesKeys(kind.describe())) whole.insert(kind.name);
