@@ -11,7 +11,6 @@ namespace dxmd_tool {
 
 std::vector<Kind> coreKinds();
 std::vector<Kind> modelActionsKinds();
-std::vector<Kind> queryEngineKinds();
 std::vector<Kind> queryServiceKinds();
 
 }  // namespace dxmd_tool

@@ -78,6 +78,15 @@ I18NString childText(const TRNIDOM_Node& parent, const I18NString& name) {
   return textOf(firstChild(parent, name));
 }
 
+std::vector<I18NString> nonEmptyChildTexts(const TRNIDOM_Node& parent, const I18NString& name) {
+  std::vector<I18NString> texts;
+  for (TRNIDOM_Element child = firstChild(parent, name); !child.isNull(); child = nextSibling(child, name)) {
+    texts.push_back(textOf(child));
+    if (texts.back().empty()) refuse(child, "must not be empty");
+  }
+  return texts;
+}
+
 std::optional<I18NString> attribute(const TRNIDOM_Element& element, const I18NString& name) {
   if (!element.hasAttribute(name)) return std::nullopt;
   return element.getAttribute(name);
@@ -95,6 +104,13 @@ void refuse(const TRNIDOM_Node& at, const std::string& reason) {
   for (TRNIDOM_Node node = at; node.getNodeType() == TRNIDOM_Node::ELEMENT_NODE; node = node.getParentNode())
     path.insert(0, step(node));
   throw XmlError(path + ": " + reason);
+}
+
+void requireAttribute(const TRNIDOM_Element& element, const I18NString& attrName, const I18NString& value) {
+  const I18NString found = element.getAttribute(attrName);
+  if (found == value) return;
+  refuse(element,
+         inQuotes(attrName.toUtf8()) + " is " + inQuotes(found.toUtf8()) + ", not " + inQuotes(value.toUtf8()));
 }
 
 bool boolean(const TRNIDOM_Element& element, const I18NString& attrName) {

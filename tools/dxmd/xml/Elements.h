@@ -4,6 +4,7 @@
 #include <optional>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include <trn/I18NString.h>
 #include <trnidom/TRNIDOM_Element.h>
@@ -45,6 +46,9 @@ TRNIDOM_Element requiredChild(const TRNIDOM_Node& parent, const I18NString& name
 I18NString textOf(const TRNIDOM_Node& element);
 /// The text of the first child element of that name.
 I18NString childText(const TRNIDOM_Node& parent, const I18NString& name);
+/// The texts of the child elements of that name.
+/// @throws XmlError when one is empty.
+std::vector<I18NString> nonEmptyChildTexts(const TRNIDOM_Node& parent, const I18NString& name);
 /// The attribute, if it is there.
 std::optional<I18NString> attribute(const TRNIDOM_Element& element, const I18NString& name);
 
@@ -71,6 +75,9 @@ Enum requiredEnumerator(const TRNIDOM_Element& element, const I18NString& attrNa
   if (!element.hasAttribute(attrName)) refuse(element, "the attribute " + inQuotes(attrName.toUtf8()) + " is missing");
   return enumerator(element, attrName, table);
 }
+
+/// Refuses an attribute that has not that value, or is missing.
+void requireAttribute(const TRNIDOM_Element& element, const I18NString& attrName, const I18NString& value);
 
 /// "true" or "false"; false when the attribute is absent.
 /// @throws XmlError for any other text.
