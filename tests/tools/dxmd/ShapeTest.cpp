@@ -33,6 +33,16 @@ void shape(Shape& s, Leaf& leaf) {
   s.optional("leaves", leaf.leaves, "Those that grow on it");
 }
 
+struct Paint {
+  EColour colour{};
+  std::uint8_t coats = 0;
+};
+
+void shape(Shape& s, Paint& paint) {
+  s.choice<EColour>("colour", paint.colour, "Its colour", kColours,
+                    [&](EColour) { s.required("coats", paint.coats, "How many"); });
+}
+
 struct Plant {
   I18NString name;
   I18NString note;
@@ -144,6 +154,10 @@ TEST(Shape, HelpSaysAllThatIsKnown) {
       "  isTree    boolean. Whether it is a tree. By default false.\n"
       "            Exactly one of \"name\", \"leaf\" may be there.\n",
       keysAsText(describe<Plant>()));
+  EXPECT_EQ(
+      "  colour  required text. Its colour. One of \"red\", \"blue\".\n"
+      "  coats   required integer. How many. Goes with \"red\", \"blue\". From 0 to 255.\n",
+      keysAsText(describe<Paint>()));
 }
 
 TEST(Shape, SchemaSaysWhatIsRefused) {

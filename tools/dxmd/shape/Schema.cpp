@@ -171,6 +171,13 @@ const char* nameOf(DescribedType::Of of) {
   return "";
 }
 
+/// `"red", "blue"`
+std::string quoted(const std::vector<std::string>& texts) {
+  std::string all;
+  for (const std::string& text : texts) all += (all.empty() ? "" : ", ") + inQuotes(text);
+  return all;
+}
+
 /// "list of objects", "text"
 std::string inWords(const DescribedType& type) {
   if (type.of != DescribedType::kList) return nameOf(type.of);
@@ -182,9 +189,8 @@ std::string inWords(const DescribedType& type) {
 std::string inWords(const DescribedRule& rule) {
   if (rule.of == DescribedRule::kNeedsTrue)
     return inQuotes(rule.keys[0]) + " needs " + inQuotes(rule.keys[1]) + " to be true.";
-  std::string keys;
-  for (const std::string& key : rule.keys) keys += (keys.empty() ? "" : ", ") + inQuotes(key);
-  return (rule.of == DescribedRule::kOneOf ? "Exactly" : "At most") + (" one of " + keys + " may be there.");
+  return (rule.of == DescribedRule::kOneOf ? "Exactly" : "At most") +
+         (" one of " + quoted(rule.keys) + " may be there.");
 }
 
 const char* nameOf(DescribedRule::Of of) {
@@ -205,18 +211,13 @@ const DescribedType& innermost(const DescribedType& type) {
   return *inner;
 }
 
-/// Facts about a key in words, each a sentence.
+/// Facts about a key in words, each a sentence; but for the choice that it goes with.
 std::string factsOf(const DescribedKey& key) {
   std::string text;
   const DescribedType& inner = innermost(key.type);
   const auto add = [&](const std::string& sentence) { text += " " + sentence + "."; };
-  if (!key.onlyFor.empty()) add("Goes with " + inQuotes(key.onlyFor));
   if (!key.kind.empty()) add("Its keys: dxmd kinds " + key.kind);
-  if (!inner.choices.empty()) {
-    std::string choices;
-    for (const std::string& choice : inner.choices) choices += (choices.empty() ? "" : ", ") + inQuotes(choice);
-    add((inner.choices.size() > 1 ? "One of " : "Always ") + choices);
-  }
+  if (!inner.choices.empty()) add((inner.choices.size() > 1 ? "One of " : "Always ") + quoted(inner.choices));
   if (inner.of == DescribedType::kInteger)
     add("From " + std::to_string(inner.least) + " to " + std::to_string(inner.most));
   if (key.nonEmpty) add("Not empty");
@@ -247,16 +248,31 @@ class KeyLines {
  private:
   void gather(const DescribedRecord& record, std::size_t indent) {
     m_open.push_back(&record);
-    for (const DescribedKey& key : record.keys) {
+    std::vector<std::string> choices;
+    for (std::size_t i = 0; i < record.keys.size(); ++i) {
+      const DescribedKey& key = record.keys[i];
+      choices.push_back(key.onlyFor);
+      // One line for a key that several choices have in a row, if it is the same for all.
+      if (i + 1 < record.keys.size() && isAlike(key, record.keys[i + 1])) continue;
       const DescribedRecord* const below = innermost(key.type).record;
       const bool isOpen = std::find(m_open.begin(), m_open.end(), below) != m_open.end();
-      const std::string again = below != nullptr && isOpen ? " Its keys are those above." : "";
-      m_items.emplace_back(std::string(indent, ' ') + key.name, (key.required ? "required " : "") + inWords(key.type) +
-                                                                    ". " + key.meaning + "." + factsOf(key) + again);
+      m_items.emplace_back(std::string(indent, ' ') + key.name,
+                           start(key) + (key.onlyFor.empty() ? "" : " Goes with " + quoted(choices) + ".") +
+                               factsOf(key) + (below != nullptr && isOpen ? " Its keys are those above." : ""));
+      choices.clear();
       if (below != nullptr && !isOpen && key.kind.empty()) gather(*below, indent + 2);
     }
     for (const DescribedRule& rule : record.rules) m_items.emplace_back(std::string(indent, ' '), inWords(rule));
     m_open.pop_back();
+  }
+
+  static std::string start(const DescribedKey& key) {
+    return (key.required ? "required " : "") + inWords(key.type) + ". " + key.meaning + ".";
+  }
+
+  static bool isAlike(const DescribedKey& a, const DescribedKey& b) {
+    return a.name == b.name && innermost(a.type).record == innermost(b.type).record && start(a) == start(b) &&
+           factsOf(a) == factsOf(b);
   }
 
   static std::string wrapped(const std::string& key, const std::string& text, std::size_t width) {
