@@ -85,7 +85,8 @@ Json RandomJson::object(const DescribedRecord& record, int depth) {
       json[key.name] = only;
       continue;
     }
-    const bool must = key.alwaysWritten || chosen.count(key.name) != 0;
+    const bool isLostWhenAbsent = lossOf(key, Loss::kAbsent) != nullptr;
+    const bool must = key.alwaysWritten || chosen.count(key.name) != 0 || isLostWhenAbsent;
     if (!must && (depth > kDeepest || oneIn(2))) continue;
     for (int attempt = 0; attempt < 20; ++attempt) {
       Json made = value(key.type, key, depth + 1);
@@ -93,7 +94,7 @@ Json RandomJson::object(const DescribedRecord& record, int depth) {
       const bool isEmpty = made == "" || made == Json::array();
       if (isEmpty && (key.nonEmpty || lossOf(key, Loss::kEmpty) != nullptr)) continue;
       if (isLostChoice(key, made)) continue;
-      if (!must && !key.otherwise.empty() && made == Json::parse(key.otherwise)) continue;
+      if ((!must || isLostWhenAbsent) && !key.otherwise.empty() && made == Json::parse(key.otherwise)) continue;
       json[key.name] = std::move(made);
       break;
     }

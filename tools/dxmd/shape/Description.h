@@ -40,7 +40,8 @@ struct DescribedType {
 struct Loss {
   enum How {
     kNever,     ///< the value is not read
-    kEmpty,     ///< an empty text is not written, or not read
+    kAbsent,    ///< what is written without the value reads as something else, or is refused
+    kEmpty,     ///< an empty text or list is not written, or not read
     kRepeated,  ///< of items that are the same, or have the same member `key`, one is left or they are changed
     kOrder,     ///< items are sorted, by the member `key` if there is one
     kChoice     ///< of the texts allowed, `key` comes back as another

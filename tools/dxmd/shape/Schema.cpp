@@ -301,6 +301,8 @@ const char* nameOf(Loss::How how) {
   switch (how) {
     case Loss::kNever:
       return "value";
+    case Loss::kAbsent:
+      return "absent";
     case Loss::kEmpty:
       return "empty";
     case Loss::kRepeated:

@@ -90,6 +90,9 @@ constexpr KeyFact lines() {
 constexpr KeyFact neverReturns(const char* why) {
   return {KeyFact::kLoss, why, "", Loss::kNever};
 }
+constexpr KeyFact absentIsLost(const char* why) {
+  return {KeyFact::kLoss, why, "", Loss::kAbsent};
+}
 constexpr KeyFact emptyIsLost(const char* why) {
   return {KeyFact::kLoss, why, "", Loss::kEmpty};
 }
