@@ -11,6 +11,7 @@
 
 #include <tools/dxmd/json/Json.h>
 #include <tools/dxmd/json/SecretNames.h>
+#include <tools/dxmd/xml/Elements.h>
 
 namespace dxmd_tool {
 
@@ -18,25 +19,12 @@ namespace {
 
 const char* const kMask = "***";
 
-/// Walks a tree of XML and hides what it says under the names of secrets. Trees may be of any depth.
+/// Walks a document and hides what it says under the names of secrets.
 class XmlMasker {
  public:
-  void visitAll(const TRNIDOM_Node& root) {
-    TRNIDOM_Node node = root;
-    while (true) {
-      visit(node);
-      if (node.hasChildNodes()) {
-        node = node.getFirstChild();
-        continue;
-      }
-      while (node != root && node.getNextSibling().isNull()) {
-        leave(node);
-        node = node.getParentNode();
-      }
-      if (node == root) return;
-      leave(node);
-      node = node.getNextSibling();
-    }
+  void visitAll(const TRNIDOM_Document& document) {
+    walk(
+        document, [this](TRNIDOM_Node& node) { visit(node); }, [this](const TRNIDOM_Node& node) { leave(node); });
   }
 
  private:

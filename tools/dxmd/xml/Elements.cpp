@@ -1,5 +1,7 @@
 #include "Elements.h"
 
+#include <utility>
+
 #include <trnidom/TRNIDOM_DOMImplementation.h>
 #include <trnidom/TRNIDOM_Document.h>
 #include <trnidom/TRNIDOM_DocumentType.h>
@@ -97,6 +99,21 @@ void refuseNested(const TRNIDOM_Element& root, const I18NString& name) {
   for (const TRNIDOM_Node outer : root.getElementsByTagName(name))
     if (const TRNIDOM_Element inner = TRNIDOM_Helper::findFirstElement(outer, name); !inner.isNull())
       refuse(inner, "it stands inside another " + inQuotes(name.toUtf8()));
+}
+
+void walk(const TRNIDOM_Node& root, const std::function<void(TRNIDOM_Node&)>& enter,
+          const std::function<void(const TRNIDOM_Node&)>& leave) {
+  TRNIDOM_Node node = root.getFirstChild();
+  while (!node.isNull()) {
+    enter(node);
+    TRNIDOM_Node next = node.getFirstChild();
+    while (next.isNull() && node != root) {
+      leave(node);
+      next = node.getNextSibling();
+      if (next.isNull()) node = node.getParentNode();
+    }
+    node = std::move(next);
+  }
 }
 
 void refuse(const TRNIDOM_Node& at, const std::string& reason) {

@@ -1,6 +1,7 @@
 #ifndef TOOLS_DXMD_XML_ELEMENTS_H
 #define TOOLS_DXMD_XML_ELEMENTS_H
 
+#include <functional>
 #include <optional>
 #include <stdexcept>
 #include <string>
@@ -55,6 +56,11 @@ std::optional<I18NString> attribute(const TRNIDOM_Element& element, const I18NSt
 /// Refuses an element of that name inside another: to readers that search at any depth its parts belong to both.
 /// @throws XmlError
 void refuseNested(const TRNIDOM_Element& root, const I18NString& name);
+
+/// Enters and leaves every node below the root, in document order. Trees may be of any depth. What is entered may be
+/// changed, but for its place in the tree.
+void walk(const TRNIDOM_Node& root, const std::function<void(TRNIDOM_Node&)>& enter,
+          const std::function<void(const TRNIDOM_Node&)>& leave);
 
 /// Refuses the document.
 [[noreturn]] void refuse(const TRNIDOM_Node& at, const std::string& reason);
