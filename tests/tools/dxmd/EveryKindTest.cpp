@@ -221,7 +221,8 @@ TEST(EveryKindThatComesBackWhole, IsListed) {
                                           "joinPaths",
                                           "refineObjects",
                                           "refinedObjects",
-                                          "testConnection"};
+                                          "testConnection",
+                                          "dimInfo"};
   std::set<std::string> whole;
   for (const Kind& kind : allKinds())
     if (kind.describe && !losesKeys(kind.describe())) whole.insert(kind.name);
