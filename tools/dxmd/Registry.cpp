@@ -17,7 +17,7 @@ const std::vector<Kind>& allKinds() {
 #define DXMD_KIND(family, kind) add(#family, #kind, kinds::kind());
 #include <tools/dxmd/kinds/kinds.def>
 #undef DXMD_KIND
-    for (const auto family : {queryServiceKinds, modelActionsKinds}) {
+    for (const auto family : {modelActionsKinds}) {
       std::vector<Kind> some = family();
       all.insert(all.end(), std::make_move_iterator(some.begin()), std::make_move_iterator(some.end()));
     }

@@ -222,7 +222,8 @@ TEST(EveryKindThatComesBackWhole, IsListed) {
                                           "refineObjects",
                                           "refinedObjects",
                                           "testConnection",
-                                          "dimInfo"};
+                                          "dimInfo",
+                                          "dataSourceFault"};
   std::set<std::string> whole;
   for (const Kind& kind : allKinds())
     if (kind.describe && !losesKeys(kind.describe())) whole.insert(kind.name);

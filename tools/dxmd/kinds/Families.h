@@ -10,7 +10,6 @@ namespace dxmd_tool {
 // The kinds of each family of helpers, in the order they are listed. Each function stands in the file of its name.
 
 std::vector<Kind> modelActionsKinds();
-std::vector<Kind> queryServiceKinds();
 
 }  // namespace dxmd_tool
 
