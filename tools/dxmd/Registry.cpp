@@ -2,7 +2,6 @@
 
 #include <tools/dxmd/ToolError.h>
 #include <tools/dxmd/json/Quote.h>
-#include <tools/dxmd/kinds/Families.h>
 
 namespace dxmd_tool {
 
@@ -17,10 +16,6 @@ const std::vector<Kind>& allKinds() {
 #define DXMD_KIND(family, kind) add(#family, #kind, kinds::kind());
 #include <tools/dxmd/kinds/kinds.def>
 #undef DXMD_KIND
-    for (const auto family : {modelActionsKinds}) {
-      std::vector<Kind> some = family();
-      all.insert(all.end(), std::make_move_iterator(some.begin()), std::make_move_iterator(some.end()));
-    }
     return all;
   }();
   return kinds;

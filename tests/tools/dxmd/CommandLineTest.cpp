@@ -40,10 +40,6 @@ TEST(CommandLine, WrongUsageIsStatus2) {
   expectFailure(kStatusUsage, "a kind of message is needed (see dxmd encode --help)", run({"encode"}));
   expectFailure(kStatusUsage, "unexpected argument \"--x\" (see dxmd encode execute --help)",
                 run({"encode", "--x", "execute"}));
-  expectFailure(kStatusUsage, "the kind importConfig is only read: dxmd decode importConfig",
-                run({"encode", "importConfig"}));
-  expectFailure(kStatusUsage, "the kind analyzeModelResponse is only written: dxmd encode analyzeModelResponse",
-                run({"decode", "analyzeModelResponse"}));
   EXPECT_TRUE(has(run({"decode", "nonsense"}).err, "\"nonsense\" is no kind of message; the kinds are execute, "));
   EXPECT_TRUE(has(run({"kinds", "nonsense"}).err, "\"nonsense\" is no kind of message"));
 }

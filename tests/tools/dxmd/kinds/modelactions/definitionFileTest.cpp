@@ -6,6 +6,11 @@
 using namespace dxmd_test;
 using namespace dxmd_tool;
 
+TEST(DefinitionFileKind, EqualLinesAreWrittenOnce) {
+  expectXml("<file><filePath/><contents><line>a</line><line/></contents><dbConnectionName>w</dbConnectionName></file>",
+            encoded("definitionFile", R"({"contents": ["a", "", "a", ""], "dbConnectionName": "w"})"));
+}
+
 TEST(DefinitionFileKind, TakesTheLinesOfATextFile) {
   const TempFolder folder;
   const std::string path = folder.add("q.def", "\xEF\xBB\xBF[Query]\r\n\ntitle = \xC3\xA9\r\n\n a\rb ");
@@ -35,25 +40,4 @@ TEST(DefinitionFileKind, FilesWithoutLinesOrInAnotherEncodingAreRefused) {
   expectFailure(kStatusUnfit, latin + ":2: not UTF-8", run({"encode", "definitionFile", "--from", latin}));
   expectFailure(kStatusUnfit, "standard input: $.contents: must not be empty",
                 run({"encode", "definitionFile"}, R"({"contents": []})"));
-}
-
-TEST(ObjectAccessKind, PrincipalsListedTwiceGetTheStrongerRule) {
-  const std::string xml = run({"encode", "objectAccess"}, R"({"securityObjects": [{"cmSearchPath": "u", "rule": "deny"},
-    {"cmSearchPath": "v", "rule": "unspecified"}, {"cmSearchPath": "u", "rule": "allow"}]})")
-                              .out;
-  EXPECT_EQ(R"({"securityObjects":[{"cmSearchPath":"u","rule":"deny"},{"cmSearchPath":"v","rule":"unspecified"}]})"
-            "\n",
-            run({"decode", "objectAccess", "--indent", "0"}, xml).out);
-  expectFailure(kStatusUnfit,
-                R"(standard input: $.securityObjects[0].rule: "Deny" is none of "unspecified", "allow", "deny")",
-                run({"encode", "objectAccess"}, R"({"securityObjects": [{"cmSearchPath": "u", "rule": "Deny"}]})"));
-}
-
-TEST(ExternalizeReportKind, PathsComeFromFileElementsOnly) {
-  EXPECT_EQ(R"({"entries":[{"objectID":"o","method":"tab","path":"/b"}]})"
-            "\n",
-            run({"decode", "externalizeReport", "--indent", "0"},
-                "<externalizeReport><entry objectID='o' method='tab' path='/no' error='no'><file path='/b'/></entry>"
-                "</externalizeReport>")
-                .out);
 }
