@@ -132,9 +132,8 @@ struct Kind {
   std::function<Description()> describe;  ///< its JSON
   std::function<TRNIDOM_Element(JsonObject&, const KindOptions&)> encode;
   std::function<Decoded(TRNIDOM_Element&, const KindOptions&)> decode;
-  bool roundTrips = false;  ///< decoding what was encoded from the example gives the example
 
-  std::string example;  ///< complete JSON to encode; for a kind that is only read, complete XML to decode
+  std::string example;  ///< complete JSON to encode
   std::vector<KindOption> options;
 };
 

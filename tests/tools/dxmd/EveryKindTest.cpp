@@ -80,7 +80,6 @@ class EveryKind : public testing::TestWithParam<std::string> {
 
 class EncodedKind : public EveryKind {};
 class DecodedKind : public EveryKind {};
-class RoundTrippingKind : public EveryKind {};
 class DescribedKind : public EveryKind {};
 
 auto kindsThat(const std::function<bool(const Kind&)>& holds) {
@@ -125,8 +124,7 @@ std::set<std::string> secretsIn(Json json) {
 TEST_P(EveryKind, SaysWhatItIs) {
   EXPECT_FALSE(kind().summary.empty());
   EXPECT_FALSE(kind().roots.empty() && kind().orHolding.empty());
-  EXPECT_TRUE(kind().encode || kind().decode);
-  EXPECT_TRUE(!kind().roundTrips || (kind().encode && kind().decode));
+  EXPECT_TRUE(kind().describe && kind().encode && kind().decode);
   std::istringstream notes(kind().notes);
   for (std::string line; std::getline(notes, line);) EXPECT_LE(line.size(), 100u) << line;
 }
@@ -197,36 +195,38 @@ TEST_P(DescribedKind, RandomJsonComesBack) {
 
 // What stands here is what users rely on: a kind that leaves the list loses something that it gave back before.
 TEST(EveryKindThatComesBackWhole, IsListed) {
-  const std::set<std::string> expected = {
-    "execute", "response", "closeConnections", "connection",
-    const std::set<std::string> expected = {"expandParameter",
-                                            "expansionResult",
-                                            "packages",
-                                            "updateObjectRequest",
-                                            "updateObjectResponse",
-                                            "feedback",
-                                            "materializeRequest",
-                                            "materializeResponse",
-                                            "analyzeModelRequest",
-                                            "analyzeModelResponse",
-                                            "validate",
-                                            "validateReply",
-                                            "update",
-                                            "cancelQuery",
-                                            "getParameters",
-                                            "querySubject",
-                                            "getJoinPaths",
-                                            "joinPaths",
-                                            "refineObjects",
-                                            "refinedObjects",
-                                            "testConnection",
-                                            "dimInfo",
-                                            "dataSourceFault",
-                                            "dbConnections",
-                                            "definitionFile",
-                                            "objectAccess",
-                                            "importConfig",
-                                            "retargetObjectReferences"};
+  const std::set<std::string> expected = {"execute",
+                                          "response",
+                                          "closeConnections",
+                                          "connection",
+                                          "expandParameter",
+                                          "expansionResult",
+                                          "packages",
+                                          "updateObjectRequest",
+                                          "updateObjectResponse",
+                                          "feedback",
+                                          "materializeRequest",
+                                          "materializeResponse",
+                                          "analyzeModelRequest",
+                                          "analyzeModelResponse",
+                                          "validate",
+                                          "validateReply",
+                                          "update",
+                                          "cancelQuery",
+                                          "getParameters",
+                                          "querySubject",
+                                          "getJoinPaths",
+                                          "joinPaths",
+                                          "refineObjects",
+                                          "refinedObjects",
+                                          "testConnection",
+                                          "dimInfo",
+                                          "dataSourceFault",
+                                          "dbConnections",
+                                          "definitionFile",
+                                          "objectAccess",
+                                          "importConfig",
+                                          "retargetObjectReferences"};
   std::set<std::string> whole;
   for (const Kind& kind : allKinds())
     if (kind.describe && !losesKeys(kind.describe())) whole.insert(kind.name);
@@ -235,10 +235,6 @@ TEST(EveryKindThatComesBackWhole, IsListed) {
 
 TEST_P(EncodedKind, ExampleIsEncodedAsTheRootDeclared) {
   EXPECT_EQ(kind().roots.at(0).c_str(), parsed(encoded(exampleJson())).getNodeName());
-}
-
-TEST_P(RoundTrippingKind, ExampleRoundTrips) {
-  EXPECT_EQ(toText(exampleJson(), 2), toText(decoded(exampleXml()), 2));
 }
 
 TEST_P(EncodedKind, UnknownKeyIsRefusedWhereverItStands) {
@@ -345,4 +341,3 @@ INSTANTIATE_TEST_SUITE_P(, EveryKind, kindsThat([](const Kind&) { return true; }
 INSTANTIATE_TEST_SUITE_P(, EncodedKind, kindsThat([](const Kind& kind) { return kind.encode != nullptr; }), nameOf);
 INSTANTIATE_TEST_SUITE_P(, DecodedKind, kindsThat([](const Kind& kind) { return kind.decode != nullptr; }), nameOf);
 INSTANTIATE_TEST_SUITE_P(, DescribedKind, kindsThat([](const Kind& kind) { return kind.describe != nullptr; }), nameOf);
-INSTANTIATE_TEST_SUITE_P(, RoundTrippingKind, kindsThat([](const Kind& kind) { return kind.roundTrips; }), nameOf);

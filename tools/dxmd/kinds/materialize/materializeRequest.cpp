@@ -40,7 +40,7 @@ void shape(Shape& s, TargetDataSource& target) {
 /// The text and where the library has it.
 struct Field {
   std::optional<I18NString> TargetDataSource::*text;
-  const I18NString* Helper::TargetDataSource::*held;
+  I18NString* Helper::TargetDataSource::*held;
 };
 constexpr Field kFields[] = {
     {&TargetDataSource::type, &Helper::TargetDataSource::type},
@@ -82,9 +82,10 @@ void shape(Shape& s, MaterializeRequest& request) {
 TRNIDOM_Element make(const MaterializeRequest& request) {
   Helper helper;
   for (const Helper::ETasks task : request.tasks) helper.AddTask(task);
+  TargetDataSource texts = request.targetDataSource;  // the helper's fields point to texts that are not const
   Helper::TargetDataSource target;
   for (const Field& field : kFields)
-    if (const auto& text = request.targetDataSource.*field.text) target.*field.held = &*text;
+    if (auto& text = texts.*field.text) target.*field.held = &*text;
   helper.SetTargetDataSource(target);
   for (const Parameter& parameter : request.parameters) helper.AddParameter(parameter.name, parameter.value);
   helper.SetResultSet(request.resultSet);
