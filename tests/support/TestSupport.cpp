@@ -36,6 +36,17 @@ TRNIDOM_Element nestedDeep(const I18NString& elementName, const I18NString& name
   return root;
 }
 
+std::string utf16(const std::u16string& text, bool bigEndian) {
+  std::string bytes;
+  for (const char16_t unit : text) {
+    const char low = static_cast<char>(unit & 0xFF);
+    const char high = static_cast<char>(unit >> 8);
+    bytes += bigEndian ? high : low;
+    bytes += bigEndian ? low : high;
+  }
+  return bytes;
+}
+
 std::string xmlOf(const TRNIDOM_Node& node) {
   return TRNIDOM_Writer::toString(node);
 }

@@ -34,6 +34,9 @@ TRNIDOM_Element parsed(const std::string& xml);
 /// @param innermost  becomes the last of them.
 TRNIDOM_Element nestedDeep(const I18NString& elementName, const I18NString& name, TRNIDOM_Element& innermost);
 
+/// The text as bytes of UTF-16, without a byte order mark of its own.
+std::string utf16(const std::u16string& text, bool bigEndian);
+
 /// The node as compact XML.
 std::string xmlOf(const TRNIDOM_Node& node);
 

@@ -130,3 +130,15 @@ TEST_F(Errors, SayWhatWasTriedOnWhichNodeButNoValue) {
   EXPECT_EQ("createElement on a null node: there is no document (INVALID_STATE_ERR)",
             refused(Error::INVALID_STATE_ERR, document, [&] { TRNIDOM_Document().createElement("a"); }));
 }
+
+TEST_F(Errors, NameTheWholeNameOrItsBeginning) {
+  const std::string nul =
+      refused(Error::INVALID_CHARACTER_ERR, document, [&] { a.setAttribute(I18NString::fromUtf16(u"b\0c", 3), ""); });
+  EXPECT_EQ("setAttribute on element \"a\": \"b\\u{0}c\" is no XML name (INVALID_CHARACTER_ERR)", nul);
+  const std::string huge(10000000, 'n');
+  const std::string what =
+      refused(Error::INVALID_CHARACTER_ERR, document, [&] { document.createElement((huge + " ").c_str()); });
+  EXPECT_GT(1000U, what.size());
+  TRNIDOM_Node element = document.createElement(huge.c_str());
+  EXPECT_GT(1000U, refused(Error::HIERARCHY_REQUEST_ERR, document, [&] { element.appendChild(element); }).size());
+}

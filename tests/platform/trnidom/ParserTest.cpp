@@ -24,17 +24,6 @@ std::string errorPlace(const std::string& xml) {
   return "parsed";
 }
 
-std::string utf16(const std::u16string& text, bool bigEndian) {
-  std::string bytes;
-  for (const char16_t unit : text) {
-    const char low = static_cast<char>(unit & 0xFF);
-    const char high = static_cast<char>(unit >> 8);
-    bytes += bigEndian ? high : low;
-    bytes += bigEndian ? low : high;
-  }
-  return bytes;
-}
-
 }  // namespace
 
 TEST(Parser, KeepsEveryKindOfNode) {
@@ -108,7 +97,6 @@ TEST(Parser, RefusesTruncatedInputAtEveryByte) {
     EXPECT_NE("parsed", errorPlace(xml.substr(0, length))) << length;
 }
 
-// Each of these ends the input for the scanner, which says nothing of it.
 TEST(Parser, RefusesWhatIsNoCharacter) {
   using namespace std::string_literals;
   EXPECT_EQ("1:5", errorPlace("<a/>\0"s));
@@ -133,10 +121,77 @@ TEST(Parser, SaysWhereBytesAreMalformed) {
   EXPECT_EQ("1:50", errorPlace("<?xml version='1.0' encoding='ISO-8859-1'?><a>\xC3</b>"));
 }
 
+TEST(Parser, SaysWhereBytesAreMalformedInEveryEncoding) {
+  using namespace std::string_literals;
+  // A surrogate in UTF-8, overlong forms, values above U+10FFFF, bytes that begin nothing.
+  for (const char* bytes : {"\xED\xA0\x80", "\xED\xBF\xBF", "\xC0\xAF", "\xE0\x80\xAF", "\xF0\x80\x80\xAF",
+                            "\xF4\x90\x80\x80", "\xF5\x80\x80\x80", "\xF8\x88\x80\x80\x80", "\x80"})
+    for (const std::string& before : {"<a>\n\xC3\xA4"s, "<a b='\n\xF0\x90\x80\x80"s, "<a><!--\r\n-"s, "<a>\r<?p"s})
+      EXPECT_EQ("2:" + std::to_string(before.back() == 'p' ? 4 : 2), errorPlace(before + bytes + "</a>")) << before;
+  for (const bool bigEndian : {false, true}) {
+    for (const char16_t unit : {u'\xD800', u'\xDC00', u'\0'}) {
+      const std::u16string lone = {unit, u'x'};
+      EXPECT_EQ("2:2", errorPlace(utf16(u"\uFEFF<a>\n\u00E4" + lone + u"</a>", bigEndian)));
+      EXPECT_EQ("2:3", errorPlace(utf16(u"\uFEFF<a b='\n\U00010000 " + lone + u"'/>", bigEndian)));
+    }
+  }
+  const auto in = [](const char* encoding, const std::string& bytes) {
+    return errorPlace("<?xml version='1.0' encoding='" + std::string(encoding) + "'?>\n<a b='" + bytes + "'/>");
+  };
+  EXPECT_EQ("parsed", in("gb18030", "\xC4\xE3\x81\x30\x81\x30"));
+  EXPECT_EQ("2:8", in("gb18030", "\xC4\xE3\x81\xFF"));
+  EXPECT_EQ("2:8", in("gb18030", "\xC4\xE3\x81\x30\x81"));
+  EXPECT_EQ("2:8", in("Shift_JIS", "\x88\x9F\x81\x01"));
+  EXPECT_EQ("2:8", in("UTF-7", "x+AAA-")) << "U+0000, of which the bytes show nothing";
+  EXPECT_EQ("2:8", in("ISO-8859-1", "\xE4\0"s));
+}
+
+TEST(Parser, CountsPlacesInCharacters) {
+  EXPECT_EQ("1:9", errorPlace("<a>\xC3\xA4\xE2\x82\xAC\xF0\x90\x80\x80 <1/></a>"));
+  EXPECT_EQ("2:4", errorPlace("<a>\r\n\xC3\xA4 <1/></a>"));
+  EXPECT_EQ("2:4", errorPlace(utf16(u"\uFEFF<a>\n\U00010000 <1/></a>", true)));
+  EXPECT_EQ("2:4", errorPlace("<?xml version='1.0' encoding='windows-1252'?><a>\n\x80 <1/></a>"));
+}
+
+TEST(Parser, RefusesNamesBeyondTheBmp) {
+  EXPECT_EQ("1:3", errorPlace("<?\xF0\x90\x80\x80 x?><a/>"));
+  EXPECT_EQ("1:2", errorPlace("<\xF0\x90\x80\x80/>"));
+}
+
+TEST(Parser, ReadsWhatTheByteOrderMarkSays) {
+  for (const bool bigEndian : {false, true})
+    EXPECT_EQ("<a x=\"\xC3\xA4\"/>",
+              xmlOf(parsed(utf16(u"\uFEFF<?xml version='1.0' encoding='UTF-8'?><a x='\u00E4'/>", bigEndian))));
+}
+
+TEST(Parser, RefusesOtherVersionsInEveryEncoding) {
+  for (const char* version : {"1.1", "1.2", "2.0", "1.", "1.00"}) {
+    const std::string xml = "<?xml version='" + std::string(version) + "'?><a/>";
+    EXPECT_NE("parsed", errorPlace(xml)) << xml;
+    EXPECT_NE("parsed", errorPlace("\xEF\xBB\xBF" + xml)) << xml;
+    EXPECT_NE("parsed", errorPlace(utf16(u"\uFEFF" + std::u16string(xml.begin(), xml.end()), false))) << xml;
+  }
+}
+
+TEST(Parser, RefusesWithAShortMessageWhateverTheInput) {
+  const std::string name(10000000, 'n');
+  for (const std::string& xml : {"<" + name + "></b>", "<a></" + name + ">", "<a " + name + "='' " + name + "=''/>",
+                                 "<a>&" + name + ";</a>", "<?xml version='1.0' encoding='" + name + "'?><a/>"}) {
+    try {
+      TRNIDOM_Parser::parseString(xml);
+      ADD_FAILURE() << xml.substr(0, 10);
+    } catch (const TRNIDOM_ParseError& error) {
+      EXPECT_GT(1000U, error.getReason().size()) << xml.substr(0, 10);
+    }
+  }
+}
+
 TEST(Parser, RefusesDocumentTypes) {
   const std::string bomb = "<!DOCTYPE a [<!ENTITY b 'b'><!ENTITY c '&b;&b;'>]><a>&c;</a>";
   for (const std::string& doctype :
-       {std::string("<!DOCTYPE a>\n<a/>"), bomb, std::string("<!DOCTYPE a SYSTEM 'file:///etc/passwd'><a/>")}) {
+       {std::string("<!DOCTYPE a>\n<a/>"), bomb, std::string("<!DOCTYPE a SYSTEM 'file:///etc/passwd'><a/>"),
+        std::string("<!DOCTYPE a PUBLIC 'p' 's'><a/>"), std::string("<!DOCTYPE a []><a/>"),
+        std::string("<!DOCTYPE\na SYSTEM 's' [<!ELEMENT a ANY>]><a/>")}) {
     try {
       TRNIDOM_Parser::parseString("<?xml version='1.0'?>\n<!-- <!DOCTYPE b> -->\n" + doctype);
       ADD_FAILURE() << doctype;

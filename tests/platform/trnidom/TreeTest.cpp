@@ -191,6 +191,25 @@ TEST(Copies, BelongToTheirDocumentAndStandAlone) {
   for (const TRNIDOM_Node& copy : {clone, imported}) expectXml("<a x=\"1\"><b>t</b><!--c--><![CDATA[d]]></a>", copy);
 }
 
+TEST(Copies, KeepTheSeveralTextsOfAnAttribute) {
+  TRNIDOM_Element a = parsed("<a x='1' y='3'/>");
+  TRNIDOM_Node x = a.getAttributes().getNamedItem("x");
+  x.appendChild(a.getOwnerDocument().createTextNode("2"));
+  TRNIDOM_Node y = a.getAttributes().getNamedItem("y");
+  y.removeChild(y.getFirstChild());
+  TRNIDOM_Document other = emptyDocument();
+  for (const TRNIDOM_Node& copy :
+       {x.cloneNode(false), other.importNode(x, false), a.cloneNode(false).getAttributes().getNamedItem("x"),
+        other.importNode(a, true).getAttributes().getNamedItem("x")}) {
+    ASSERT_EQ(2U, copy.getChildNodes().getLength());
+    EXPECT_EQ("1", childAt(copy, 0).getNodeValue().toUtf8());
+    EXPECT_EQ("2", childAt(copy, 1).getNodeValue().toUtf8());
+    EXPECT_EQ("12", copy.getNodeValue().toUtf8());
+  }
+  EXPECT_FALSE(a.cloneNode(true).getAttributes().getNamedItem("y").hasChildNodes());
+  expectXml("<a x=\"12\" y=\"\"/>", a.cloneNode(true));
+}
+
 TEST(Copies, OfWholeDocumentsAreDocuments) {
   TRNIDOM_Node document = parsed("<?p i?><a><b/></a>").getParentNode();
   TRNIDOM_Node clone = document.cloneNode(true);
