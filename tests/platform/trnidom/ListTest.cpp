@@ -89,14 +89,3 @@ TEST(Lists, LoopsThatAppendVisitWhatTheyAppended) {
     if (++visited < 5) a.appendChild(b.cloneNode(false));
   EXPECT_EQ(5U, visited);
 }
-
-// Without lists that remember where they stand, each of these loops takes minutes.
-TEST(Lists, LongOnesAreReadInLinearTime) {
-  std::string xml = "<a>";
-  constexpr std::size_t kCount = 100000;
-  for (std::size_t i = 0; i < kCount; ++i) xml += "<b/>";
-  const TRNIDOM_Element a = parsed(xml + "</a>");
-  for (const TRNIDOM_NodeList& list : {a.getElementsByTagName("b"), a.getChildNodes()})
-    for (std::size_t i = 0; i < list.getLength(); ++i) TRNIDOM_Element(list.item(i)).setAttribute("i", "x");
-  EXPECT_EQ("x", TRNIDOM_Element(a.getLastChild()).getAttribute("i").toUtf8());
-}
