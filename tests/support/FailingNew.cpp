@@ -1,11 +1,14 @@
 #include "FailingNew.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <exception>
 #include <new>
 
 #include <gtest/gtest.h>
+#include <malloc.h>
 #include <unicode/uclean.h>
 
 namespace {
@@ -17,6 +20,8 @@ thread_local std::size_t allocations = 0;
 thread_local std::size_t firstToFail = kNever;
 thread_local std::size_t lastToFail = kNever;
 thread_local std::ptrdiff_t blocks = 0;  // allocated and not given back
+thread_local std::ptrdiff_t bytes = 0;   // in these
+thread_local std::ptrdiff_t mostBytes = PTRDIFF_MAX;
 
 bool failsNow() noexcept {
   const std::size_t number = allocations++;
@@ -24,14 +29,16 @@ bool failsNow() noexcept {
 }
 
 void* allocate(std::size_t size) noexcept {
-  if (failsNow()) return nullptr;
+  if (failsNow() || static_cast<std::ptrdiff_t>(size) > mostBytes - bytes) return nullptr;
   void* const block = std::malloc(size == 0 ? 1 : size);
   if (block != nullptr) ++blocks;
+  bytes += static_cast<std::ptrdiff_t>(malloc_usable_size(block));
   return block;
 }
 
 void release(void* block) noexcept {
   if (block != nullptr) --blocks;
+  bytes -= static_cast<std::ptrdiff_t>(malloc_usable_size(block));
   std::free(block);
 }
 
@@ -39,7 +46,11 @@ void replaceIcuMemory() {
   const auto icuAllocate = [](const void*, std::size_t size) { return allocate(size); };
   const auto icuReallocate = [](const void*, void* block, std::size_t size) {
     if (block == nullptr) return allocate(size);
-    return failsNow() ? nullptr : std::realloc(block, size);
+    void* const grown = allocate(size);
+    if (grown == nullptr) return grown;
+    std::memcpy(grown, block, std::min(size, malloc_usable_size(block)));
+    release(block);
+    return grown;
   };
   const auto icuRelease = [](const void*, void* block) { release(block); };
   UErrorCode status = U_ZERO_ERROR;
@@ -115,6 +126,13 @@ std::size_t withEachAllocationFailing(const std::function<void()>& action) {
   }
   EXPECT_TRUE(run(kNever, kNever, action).succeeded) << "after all these failures";
   return undisturbed.allocations;
+}
+
+bool failsWithin(std::size_t most, const std::function<void()>& action) {
+  mostBytes = bytes + static_cast<std::ptrdiff_t>(most);
+  const bool failed = !run(kNever, kNever, action).succeeded;
+  mostBytes = PTRDIFF_MAX;
+  return failed;
 }
 
 bool failsWithoutMemory(const std::function<void()>& action) {

@@ -18,6 +18,10 @@ void withEachNewFailing(const std::function<void()>& action);
 /// allocations of an undisturbed run.
 std::size_t withEachAllocationFailing(const std::function<void()>& action);
 
+/// Runs the action with no more than that many bytes at a time, beyond what was allocated before. Whether it ended in
+/// std::bad_alloc.
+bool failsWithin(std::size_t bytes, const std::function<void()>& action);
+
 /// Runs the action with every allocation failing. Whether it ended in std::bad_alloc.
 bool failsWithoutMemory(const std::function<void()>& action);
 
