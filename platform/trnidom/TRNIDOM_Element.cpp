@@ -45,13 +45,17 @@ bool TRNIDOM_Element::hasAttribute(const I18NString& name) const {
 }
 
 void TRNIDOM_Element::setAttribute(const I18NString& attrName, const I18NString& attrValue) {
-  attempt("setAttribute", *this,
-          [&] { Access::document(*this)->setAttribute(requireElement(*this), textOf(attrName), textOf(attrValue)); });
+  attempt("setAttribute", *this, [&] {
+    Element* const element = requireElement(*this);
+    Access::document(*this)->setAttribute(element, textOf(attrName), textOf(attrValue));
+  });
 }
 
 void TRNIDOM_Element::removeAttribute(const I18NString& name) {
-  attempt("removeAttribute", *this,
-          [&] { Access::document(*this)->removeAttribute(requireElement(*this), textOf(name)); });
+  attempt("removeAttribute", *this, [&] {
+    Element* const element = requireElement(*this);
+    Access::document(*this)->removeAttribute(element, textOf(name));
+  });
 }
 
 TRNIDOM_NodeList TRNIDOM_Element::getElementsByTagName(const I18NString& name) const {

@@ -90,38 +90,3 @@ I18NString TRNIDOM_Helper::getElementText(const TRNIDOM_Node& element) {
 void TRNIDOM_Helper::getElementText(const TRNIDOM_Node& element, I18NString& out) {
   out = getElementText(element);
 }
-
-// Temporarily built from the rest.
-
-TRNIDOM_Element TRNIDOM_Helper::findNextSiblingElement(const TRNIDOM_Node& node, const I18NString& name) {
-  TRNIDOM_Node at = node.getNextSibling();
-  while (!at.isNull() && (at.getNodeType() != TRNIDOM_Node::ELEMENT_NODE || at.getNodeName() != name))
-    at = at.getNextSibling();
-  return at;
-}
-
-TRNIDOM_Element TRNIDOM_Helper::appendElement(const TRNIDOM_Node& parent, const I18NString& name) {
-  TRNIDOM_Document document =
-      parent.getNodeType() == TRNIDOM_Node::DOCUMENT_NODE ? TRNIDOM_Document(parent) : parent.getOwnerDocument();
-  return TRNIDOM_Node(parent).appendChild(document.createElement(name));
-}
-
-TRNIDOM_Element TRNIDOM_Helper::appendElement(const TRNIDOM_Node& parent, const I18NString& name,
-                                              const I18NString& attrName, const I18NString& attrValue) {
-  TRNIDOM_Document document =
-      parent.getNodeType() == TRNIDOM_Node::DOCUMENT_NODE ? TRNIDOM_Document(parent) : parent.getOwnerDocument();
-  TRNIDOM_Element element = document.createElement(name);
-  element.setAttribute(attrName, attrValue);
-  return TRNIDOM_Node(parent).appendChild(element);
-}
-
-TRNIDOM_Node TRNIDOM_Helper::appendText(const TRNIDOM_Node& parent, const I18NString& text) {
-  return TRNIDOM_Node(parent).appendChild(parent.getOwnerDocument().createTextNode(text));
-}
-
-void TRNIDOM_Helper::getChildAttributes(const TRNIDOM_Node& parent, const I18NString& name, const I18NString& attrName,
-                                        std::vector<I18NString>& values) {
-  for (TRNIDOM_Node child = parent.getFirstChild(); !child.isNull(); child = child.getNextSibling())
-    if (child.getNodeType() == TRNIDOM_Node::ELEMENT_NODE && child.getNodeName() == name)
-      values.push_back(TRNIDOM_Element(child).getAttribute(attrName));
-}

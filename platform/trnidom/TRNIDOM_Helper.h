@@ -1,8 +1,6 @@
 #ifndef TRNIDOM_TRNIDOM_HELPER_H
 #define TRNIDOM_TRNIDOM_HELPER_H
 
-#include <vector>
-
 #include <trn/I18NString.h>
 #include <trnidom/TRNIDOM_Element.h>
 #include <trnidom/TRNIDOM_Export.h>
@@ -17,9 +15,6 @@ class TRNIDOM_API TRNIDOM_Helper {
  public:
   /// The first child element of that name, or null.
   static TRNIDOM_Element findChildElement(const TRNIDOM_Node& parent, const I18NString& name);
-
-  /// The first element of that name among the siblings after the node, or null.
-  static TRNIDOM_Element findNextSiblingElement(const TRNIDOM_Node& node, const I18NString& name);
 
   /// The first descendant element of that name in document order, or null.
   static TRNIDOM_Element findFirstElement(const TRNIDOM_Node& parent, const I18NString& name);
@@ -40,21 +35,6 @@ class TRNIDOM_API TRNIDOM_Helper {
   /// is none.
   static TRNIDOM_Element findOrCreateElementWithAttribute(const TRNIDOM_Node& parent, const I18NString& name,
                                                           const I18NString& attrName, const I18NString& attrValue);
-
-  /// Appends a new element of that name, as `createElement` and `appendChild` do together, at less cost.
-  /// @throws TRNIDOM_DOMException as they do, and for a null parent.
-  static TRNIDOM_Element appendElement(const TRNIDOM_Node& parent, const I18NString& name);
-
-  /// Appends a new element with one attribute in the same way.
-  static TRNIDOM_Element appendElement(const TRNIDOM_Node& parent, const I18NString& name, const I18NString& attrName,
-                                       const I18NString& attrValue);
-
-  /// Appends a new text node in the same way, also when the text is empty.
-  static TRNIDOM_Node appendText(const TRNIDOM_Node& parent, const I18NString& text);
-
-  /// Appends that attribute of each child element of that name; an absent one is empty.
-  static void getChildAttributes(const TRNIDOM_Node& parent, const I18NString& name, const I18NString& attrName,
-                                 std::vector<I18NString>& values);
 
   /// The text and CDATA children, concatenated; empty when there are none.
   static I18NString getElementText(const TRNIDOM_Node& element);

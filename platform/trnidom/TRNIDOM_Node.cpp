@@ -106,26 +106,35 @@ void TRNIDOM_Node::setNodeValue(const I18NString& value) {
 }
 
 TRNIDOM_Node TRNIDOM_Node::appendChild(const TRNIDOM_Node& newChild) {
-  attempt("appendChild", *this, [&] { Access::document(*this)->insert(m_node, requireOwn(*this, newChild), nullptr); });
+  attempt("appendChild", *this, [&] {
+    Node* const child = requireOwn(*this, newChild);
+    Access::document(*this)->insert(m_node, child, nullptr);
+  });
   return newChild;
 }
 
 TRNIDOM_Node TRNIDOM_Node::insertBefore(const TRNIDOM_Node& newChild, const TRNIDOM_Node& refChild) {
-  attempt("insertBefore", *this,
-          [&] { Access::document(*this)->insert(m_node, requireOwn(*this, newChild), Access::node(refChild)); });
+  attempt("insertBefore", *this, [&] {
+    Node* const child = requireOwn(*this, newChild);
+    Access::document(*this)->insert(m_node, child, Access::node(refChild));
+  });
   return newChild;
 }
 
 TRNIDOM_Node TRNIDOM_Node::replaceChild(const TRNIDOM_Node& newChild, const TRNIDOM_Node& oldChild) {
   attempt("replaceChild", *this, [&] {
     Document::requireChild(requireNode(*this), Access::node(oldChild));
-    Access::document(*this)->replace(m_node, requireOwn(*this, newChild), Access::node(oldChild));
+    Node* const child = requireOwn(*this, newChild);
+    Access::document(*this)->replace(m_node, child, Access::node(oldChild));
   });
   return oldChild;
 }
 
 TRNIDOM_Node TRNIDOM_Node::removeChild(const TRNIDOM_Node& oldChild) {
-  attempt("removeChild", *this, [&] { Access::document(*this)->remove(requireNode(*this), Access::node(oldChild)); });
+  attempt("removeChild", *this, [&] {
+    Node* const parent = requireNode(*this);
+    Access::document(*this)->remove(parent, Access::node(oldChild));
+  });
   return oldChild;
 }
 

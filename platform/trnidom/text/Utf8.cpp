@@ -21,18 +21,18 @@ char16_t* utf16Of(std::string_view utf8, char16_t* out) noexcept {
     }
     for (std::ptrdiff_t i = 0; i < kBlock && at != end; ++i) {
       const unsigned lead = *at;
+      const auto rest = [at](std::ptrdiff_t index) { return at[index] & 0x3FU; };
       if (lead < 0x80) {
         *out++ = static_cast<char16_t>(lead);
         ++at;
       } else if (lead < 0xE0) {
-        *out++ = static_cast<char16_t>((lead & 0x1F) << 6 | (at[1] & 0x3F));
+        *out++ = static_cast<char16_t>((lead & 0x1F) << 6 | rest(1));
         at += 2;
       } else if (lead < 0xF0) {
-        *out++ = static_cast<char16_t>((lead & 0x0F) << 12 | (at[1] & 0x3F) << 6 | (at[2] & 0x3F));
+        *out++ = static_cast<char16_t>((lead & 0x0F) << 12 | rest(1) << 6 | rest(2));
         at += 3;
       } else {
-        const unsigned character =
-            ((lead & 0x07) << 18 | (at[1] & 0x3F) << 12 | (at[2] & 0x3F) << 6 | (at[3] & 0x3F)) - 0x10000;
+        const unsigned character = ((lead & 0x07) << 18 | rest(1) << 12 | rest(2) << 6 | rest(3)) - 0x10000;
         *out++ = static_cast<char16_t>(0xD800 + (character >> 10));
         *out++ = static_cast<char16_t>(0xDC00 + (character & 0x3FF));
         at += 4;

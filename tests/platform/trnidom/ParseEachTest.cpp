@@ -39,7 +39,7 @@ std::string visits(const std::string& xml, const char* name, std::size_t size = 
 TEST(ParseEach, VisitsEachElementOfThatName) {
   const std::string xml =
       "<?p i?><a><r n='1'/><b>x<r n='2'>y<![CDATA[d]]><!--c--></r>z<s/></b><p:r/><r n='3'></r></a>\n<!--end-->";
-  for (const std::size_t size : {1, 7, 1000})
+  for (const std::size_t size : {1U, 7U, 1000U})
     EXPECT_EQ(
         "<r n=\"1\"/>|<r n=\"2\">y<![CDATA[d]]><!--c--></r>|<r n=\"3\"/>|"
         "<?p i?><a><b>xz<s/></b><p:r/></a><!--end-->",
@@ -87,9 +87,9 @@ TEST(ParseEach, EndsWithWhatSourceOrVisitorThrow) {
   };
   EXPECT_THROW(TRNIDOM_Parser::parseEach(piecesOf(xml, 1000), "r", failingVisit), std::domain_error);
   EXPECT_EQ(2U, count);
-  const auto failingSource = [&](char* buffer, std::size_t) -> std::size_t {
+  const auto failingSource = [&](char* buffer, std::size_t size) -> std::size_t {
     if (count++ != 2) throw 7;
-    return xml.copy(buffer, 10);
+    return xml.copy(buffer, std::min<std::size_t>(size, 10));
   };
   EXPECT_THROW(TRNIDOM_Parser::parseEach(failingSource, "r", [](const TRNIDOM_Element&) {}), int);
 }
