@@ -12,6 +12,8 @@ Decoded::Decoded(TRNIDOM_Element element) : m_element(std::move(element)) {}
 
 Decoded::Decoded(std::string text) : m_text(std::move(text)) {}
 
+Decoded::Decoded(Print print) : m_print(std::move(print)) {}
+
 std::optional<std::string> KindOptions::value(const std::string& name) const {
   const auto found = m_values.find(name);
   if (found == m_values.end()) return std::nullopt;

@@ -64,23 +64,49 @@
 
 namespace dxmd_tool {
 
-/// What a decoder gives to print: JSON, a document to write back as XML, or text that is ready as it is.
+class Output;
+
+/// How a decoder prints that prints by itself.
+struct Printing {
+  Output& out;
+  unsigned indent;
+  bool showSecrets;
+};
+
+/// What a decoder gives to print: JSON, a document to write back as XML, a text, or the function that prints what is
+/// too large to be held as one of these, which hides secrets itself.
 class Decoded {
  public:
+  using Print = std::function<void(const Printing&)>;
+
   Decoded(Json json);                // NOLINT: whichever a decoder returns
   Decoded(TRNIDOM_Element element);  // NOLINT
   Decoded(std::string text);         // NOLINT
+  Decoded(Print print);              // NOLINT
 
   /// The JSON; null when it is something else.
   Json* json() const { return m_json.get(); }
   /// The document; null when it is something else.
   const TRNIDOM_Element& element() const { return m_element; }
   const std::string& text() const { return m_text; }
+  /// The function; null when it is something else.
+  const Print& print() const { return m_print; }
 
  private:
   std::shared_ptr<Json> m_json;
   TRNIDOM_Element m_element;
   std::string m_text;
+  Print m_print;
+};
+
+/// Decodes a document that may be larger than memory: elements of one name are handed over one by one, and are no part
+/// of the root that comes last.
+struct PieceDecoder {
+  std::string element;
+  std::function<void(const TRNIDOM_Element&)> visit;
+  /// Whether all that was visited stood where it belongs, as far as the root tells.
+  std::function<bool(const TRNIDOM_Element& root)> fits;
+  std::function<Decoded(TRNIDOM_Element& root)> finish;
 };
 
 /// An option of one kind, which joins the help of that kind's verb and is refused for other kinds.
@@ -132,6 +158,8 @@ struct Kind {
   std::function<Description()> describe;  ///< its JSON
   std::function<TRNIDOM_Element(JsonObject&, const KindOptions&)> encode;
   std::function<Decoded(TRNIDOM_Element&, const KindOptions&)> decode;
+  /// Decodes large documents in the stead of `decode`, with the same result; null for a kind that has no large ones.
+  std::function<PieceDecoder(const KindOptions&)> decodePieces;
 
   std::string example;  ///< complete JSON to encode
   std::vector<KindOption> options;

@@ -2,6 +2,7 @@
 
 #include <tools/dxmd/ToolError.h>
 #include <tools/dxmd/json/Quote.h>
+#include <tools/dxmd/text/Suggest.h>
 
 namespace dxmd_tool {
 
@@ -22,12 +23,16 @@ const std::vector<Kind>& allKinds() {
 }
 
 const Kind& findKind(const std::string& name) {
-  std::string names;
+  const std::string lower = lowerCase(name);
+  std::vector<std::string> names;
+  std::string list;
   for (const Kind& kind : allKinds()) {
-    if (kind.name == name) return kind;
-    names += (names.empty() ? "" : ", ") + kind.name;
+    if (lowerCase(kind.name) == lower) return kind;
+    names.push_back(kind.name);
+    list += (list.empty() ? "" : ", ") + kind.name;
   }
-  throw ToolError(kStatusUsage, inQuotes(name) + " is no kind of message; the kinds are " + names);
+  throw ToolError(kStatusUsage,
+                  inQuotes(name) + " is no kind of message; the kinds are " + list + didYouMean(name, names));
 }
 
 }  // namespace dxmd_tool

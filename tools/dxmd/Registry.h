@@ -11,7 +11,7 @@ namespace dxmd_tool {
 /// Every kind, family by family.
 const std::vector<Kind>& allKinds();
 
-/// The kind of that name.
+/// The kind of that name, in whatever case.
 /// @throws ToolError (usage) that lists the kinds.
 const Kind& findKind(const std::string& name);
 

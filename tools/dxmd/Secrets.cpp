@@ -1,6 +1,6 @@
 #include "Secrets.h"
 
-#include <algorithm>
+#include <functional>
 #include <string_view>
 
 #include <trnidom/TRNIDOM_Document.h>
@@ -10,22 +10,30 @@
 #include <trnidom/TRNIDOM_Writer.h>
 
 #include <tools/dxmd/json/Json.h>
-#include <tools/dxmd/json/SecretNames.h>
+#include <tools/dxmd/json/JsonError.h>
+#include <tools/dxmd/json/JsonPlace.h>
 #include <tools/dxmd/xml/Elements.h>
 
 namespace dxmd_tool {
 
 namespace {
 
-const char* const kMask = "***";
+/// Told of each secret; gives what to write for it.
+using Replace = std::function<std::string(std::string_view secret)>;
 
-/// Walks a document and hides what it says under the names of secrets.
-class XmlMasker {
+/// Walks a tree of XML and replaces what it says under the names of secrets.
+class XmlWalk {
  public:
-  void visitAll(const TRNIDOM_Document& document) {
+  explicit XmlWalk(const Replace& replace) : m_replace(replace) {}
+
+  void visitAll(const TRNIDOM_Node& root) {
+    TRNIDOM_Node top = root;
+    visit(top);
     walk(
-        document, [this](TRNIDOM_Node& node) { visit(node); }, [this](const TRNIDOM_Node& node) { leave(node); });
+        root, [this](TRNIDOM_Node& node) { visit(node); }, [this](const TRNIDOM_Node& node) { leave(node); });
   }
+
+  bool hasChanged() const { return m_hasChanged; }
 
  private:
   void visit(TRNIDOM_Node& node) {
@@ -33,23 +41,26 @@ class XmlMasker {
       if (m_secret.isNull() && isSecretElement(node)) m_secret = node;
       for (TRNIDOM_Node attribute : node.getAttributes()) visitAttribute(attribute);
     } else if (!m_secret.isNull()) {
-      node.setNodeValue(kMask);
+      change(node, m_replace);
     } else {
-      hideParameters(node);
+      change(node, [&](std::string_view text) { return withSecretsReplaced(std::string(text), m_replace); });
     }
   }
 
-  void visitAttribute(TRNIDOM_Node& attribute) const {
+  void visitAttribute(TRNIDOM_Node& attribute) {
     const std::string name = attribute.getNodeName().toUtf8();
     if (isSecretName(name) || (!m_secret.isNull() && name != "name"))
-      attribute.setNodeValue(kMask);
+      change(attribute, m_replace);
     else
-      hideParameters(attribute);
+      change(attribute, [&](std::string_view text) { return withSecretsReplaced(std::string(text), m_replace); });
   }
 
-  static void hideParameters(TRNIDOM_Node& node) {
+  void change(TRNIDOM_Node& node, const Replace& replace) {
     const std::string text = node.getNodeValue().toUtf8();
-    if (const std::string masked = maskedParameters(text); masked != text) node.setNodeValue(masked.c_str());
+    const std::string replaced = replace(text);
+    if (replaced == text) return;
+    node.setNodeValue(replaced.c_str());
+    m_hasChanged = true;
   }
 
   void leave(const TRNIDOM_Node& node) {
@@ -60,77 +71,118 @@ class XmlMasker {
     return isSecretName(element.getNodeName().toUtf8()) || isSecretName(element.getAttribute("name").toUtf8());
   }
 
+  const Replace& m_replace;
   TRNIDOM_Node m_secret;  ///< the secret element that the walk is in, or null
+  bool m_hasChanged = false;
 };
 
-std::string maskedXml(const std::string& text) {
-  if (!isSecretName(text)) return text;
+bool looksLikeXml(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(" \t\r\n");
+  return first != std::string_view::npos && text[first] == '<';
+}
+
+std::string replacedInText(const std::string& text, const Replace& replace) {
+  if (!looksLikeXml(text)) return withSecretsReplaced(text, replace);
+  if (!mayHoldSecret(text) && !hasSecretWord(text)) return text;
   try {
     const TRNIDOM_Document document = TRNIDOM_Parser::parseString(text);
-    XmlMasker().visitAll(document);
-    return TRNIDOM_Writer::toString(document);
+    XmlWalk walk(replace);
+    walk.visitAll(document);
+    return walk.hasChanged() ? TRNIDOM_Writer::toString(document) : text;
   } catch (const TRNIDOM_ParseError&) {
-    return kMask;
+    return hasSecretWord(text) ? replace(text) : withSecretsReplaced(text, replace);
   }
 }
 
-/// Walks the JSON, whose depth is bounded, and beside it the description.
-void mask(Json& json, std::string_view key, bool secret, const DescribedRecord* record) {
-  secret = secret || isSecretName(key);
-  if (json.is_object()) {
-    const bool namesSecret =
-        json.contains("name") && json["name"].is_string() && isSecretName(json["name"].get_ref<const std::string&>());
-    for (auto& member : json.get_ref<Json::object_t&>()) {
-      const DescribedKey* const described = record != nullptr ? record->find(member.first) : nullptr;
-      const DescribedType* type = described != nullptr ? &described->type : nullptr;
-      while (type != nullptr && type->item) type = type->item.get();
-      mask(member.second, member.first,
-           secret || (namesSecret && member.first == "value") || (described != nullptr && described->secret),
-           type != nullptr ? type->record : nullptr);
+/// Walks JSON, whose depth is bounded, and beside it the description.
+class JsonWalk {
+ public:
+  /// Told of each text, with the secrets in it replaced or all of it when it is one, and of what is no text.
+  using Visit = std::function<void(Json& value, bool isSecret, const JsonPlace& place)>;
+
+  explicit JsonWalk(const Visit& visit) : m_visit(visit) {}
+
+  void walk(Json& json, bool secret, const DescribedRecord* record, const JsonPlace& place) {
+    secret = secret || (place.parent != nullptr && isSecretName(place.name));
+    if (json.is_object()) {
+      const bool namesSecret =
+          json.contains("name") && json["name"].is_string() && isSecretName(json["name"].get_ref<const std::string&>());
+      for (auto& member : json.get_ref<Json::object_t&>()) {
+        const DescribedKey* const described = record != nullptr ? record->find(member.first) : nullptr;
+        const DescribedType* type = described != nullptr ? &described->type : nullptr;
+        while (type != nullptr && type->item) type = type->item.get();
+        walk(member.second,
+             secret || (namesSecret && member.first == "value") || (described != nullptr && described->secret),
+             type != nullptr ? type->record : nullptr, {&place, member.first});
+      }
+    } else if (json.is_array()) {
+      std::size_t index = 0;
+      for (Json& item : json) walk(item, secret, record, {&place, std::string_view(), index++});
+    } else {
+      m_visit(json, secret, place);
     }
-  } else if (json.is_array()) {
-    for (Json& item : json) mask(item, key, secret, record);
-  } else if (json.is_string()) {
-    auto& text = json.get_ref<std::string&>();
-    if (secret)
-      text = text.empty() ? "" : kMask;
-    else if (const std::size_t first = text.find_first_not_of(" \t\r\n");
-             first != std::string::npos && text[first] == '<')
-      text = maskedXml(text);
-    else
-      text = maskedParameters(text);
-  } else if (secret && !json.is_null()) {
-    json = kMask;
   }
+
+ private:
+  const Visit& m_visit;
+};
+
+/// Tells of each secret that is not empty. The JSON stays as it is.
+void forEachSecret(const Json& json, const DescribedRecord* record, const JsonPlace& place,
+                   const std::function<void(std::string_view secret, const JsonPlace& place)>& tell) {
+  const JsonWalk::Visit visit = [&](Json& value, bool isSecret, const JsonPlace& at) {
+    const Replace note = [&](std::string_view secret) {
+      if (!secret.empty()) tell(secret, at);
+      return std::string(secret);
+    };
+    if (isSecret && !value.is_null())
+      note(value.is_string() ? value.get_ref<const std::string&>() : value.dump());
+    else if (value.is_string())
+      replacedInText(value.get_ref<const std::string&>(), note);
+  };
+  JsonWalk(visit).walk(const_cast<Json&>(json), false, record, place);
 }
 
 }  // namespace
 
-std::string maskedParameters(const std::string& text) {
-  std::string masked;
-  std::size_t done = 0;
-  for (std::size_t equals = text.find('='); equals != std::string::npos; equals = text.find('=', equals + 1)) {
-    const std::size_t before = text.find_last_of(";&?={\"'", equals - (equals > 0 ? 1 : 0));
-    const std::size_t name = std::max(done, before == std::string::npos || before >= equals ? 0 : before + 1);
-    if (name >= equals || !isSecretName(std::string_view(text).substr(name, equals - name))) continue;
-    // A value in quotes or braces may hold semicolons, and the closing one when that stands twice.
-    std::size_t last = equals + 1;
-    const std::size_t first = text.find_first_not_of(" \t", last);
-    if (first != std::string::npos && (text[first] == '{' || text[first] == '"' || text[first] == '\'')) {
-      const char close = text[first] == '{' ? '}' : text[first];
-      last = text.find(close, first + 1);
-      while (last < text.size() && text[last + 1] == close) last = text.find(close, last + 2);
-    }
-    last = std::min(text.find(';', std::min(last, text.size())), text.size());
-    masked += text.substr(done, equals + 1 - done) + (last > equals + 1 ? kMask : "");
-    done = last;
-    equals = std::max(equals, last - 1);
-  }
-  return masked + text.substr(done);
+std::string shownText(const std::string& text) {
+  return replacedInText(text, [](std::string_view secret) { return secret.empty() ? "" : kMask; });
 }
 
 void maskSecrets(Json& json, const DescribedRecord* record) {
-  mask(json, "", false, record);
+  const JsonWalk::Visit visit = [](Json& value, bool isSecret, const JsonPlace&) {
+    if (isSecret && !value.is_null())
+      value = value == "" ? "" : kMask;
+    else if (value.is_string())
+      value = shownText(value.get_ref<const std::string&>());
+  };
+  JsonWalk(visit).walk(json, false, record, {nullptr, ""});
+}
+
+bool holdsSecrets(const Json& json, const DescribedRecord* record) {
+  bool found = false;
+  forEachSecret(json, record, {nullptr, ""}, [&](std::string_view, const JsonPlace&) { found = true; });
+  return found;
+}
+
+bool holdsSecrets(const TRNIDOM_Node& root) {
+  bool found = false;
+  const Replace note = [&](std::string_view secret) {
+    found = found || !secret.empty();
+    return std::string(secret);
+  };
+  XmlWalk(note).visitAll(root);
+  return found;
+}
+
+void refuseMasks(const Json& json, const DescribedRecord* record, const std::string& source) {
+  forEachSecret(json, record, {nullptr, source}, [](std::string_view secret, const JsonPlace& place) {
+    // Spaces around it and quotes are those of a connection string that was edited.
+    const std::size_t first = secret.find_first_not_of(" \t\"'{");
+    if (first == std::string_view::npos || secret.substr(first, 3) != kMask) return;
+    if (secret.find_first_not_of(" \t\"'}", first + 3) != std::string_view::npos) return;
+    throw JsonError(JsonError::kUnfit, std::string(place.source()) + ": " + place.path() + ": " + kMaskRefusal);
+  });
 }
 
 }  // namespace dxmd_tool

@@ -1,7 +1,10 @@
 #include "Table.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
+
+#include <tools/dxmd/text/Escape.h>
 
 namespace dxmd_tool {
 
@@ -33,71 +36,107 @@ std::size_t characterWidth(char32_t character) {
   return isIn(kWide, character) ? 2 : 1;
 }
 
-/// The text without characters that would break the line.
-std::string onOneLine(std::string text) {
-  const auto isControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; };
-  if (std::none_of(text.begin(), text.end(), isControl)) return text;
-  constexpr const char* kHex = "0123456789ABCDEF";
-  std::string escaped;
-  for (const char c : text) {
-    if (!isControl(c))
-      escaped += c;
-    else if (c == '\n')
-      escaped += "\\n";
-    else if (c == '\r')
-      escaped += "\\r";
-    else if (c == '\t')
-      escaped += "\\t";
-    else
-      escaped += std::string("\\x") + kHex[c >> 4 & 0xF] + kHex[c & 0xF];
+/// Whether a cell is a number as databases print it.
+bool isNumber(std::string_view cell) {
+  std::size_t at = cell.find_first_not_of("+-");
+  if (at == std::string_view::npos || at > 1) return false;
+  bool hasDigit = false;
+  for (; at < cell.size() && (('0' <= cell[at] && cell[at] <= '9') || cell[at] == '.' || cell[at] == ','); ++at)
+    hasDigit = hasDigit || (cell[at] != '.' && cell[at] != ',');
+  if (at < cell.size() && hasDigit && (cell[at] == 'e' || cell[at] == 'E')) {
+    at += at + 1 < cell.size() && (cell[at + 1] == '+' || cell[at + 1] == '-') ? 2 : 1;
+    at = std::min(cell.find_first_not_of("0123456789", at), cell.size());
   }
-  return escaped;
+  return hasDigit && at == cell.size();
+}
+
+/// The cell with its controls escaped, cut to that width. No more of it is looked at than fits.
+std::string fitted(std::string_view cell, std::size_t most) {
+  constexpr const char* kCut = "\u2026";
+  std::string shown;
+  std::size_t width = 0;
+  std::size_t sizeBeforeLast = 0;  // of what leaves room for the mark
+  for (std::size_t at = 0; at < cell.size();) {
+    const std::size_t start = at;
+    nextCharacter(cell, at);
+    const std::string next = escaped(cell.substr(start, at - start));
+    width += displayWidth(next);
+    if (width > most) return shown.substr(0, sizeBeforeLast) + kCut;
+    shown += next;
+    if (width < most) sizeBeforeLast = shown.size();
+  }
+  return shown;
 }
 
 }  // namespace
 
-std::size_t displayWidth(const std::string& text) {
+std::size_t displayWidth(std::string_view text) {
   std::size_t width = 0;
   for (std::size_t at = 0; at < text.size();) {
-    const auto lead = static_cast<unsigned char>(text[at++]);
-    char32_t character = lead < 0xC0 ? lead : lead < 0xE0 ? lead & 0x1Fu : lead < 0xF0 ? lead & 0x0Fu : lead & 0x07u;
-    for (; at < text.size() && (static_cast<unsigned char>(text[at]) & 0xC0) == 0x80; ++at)
-      character = character << 6 | (static_cast<unsigned char>(text[at]) & 0x3Fu);
-    width += characterWidth(character);
+    const char32_t character = nextCharacter(text, at);
+    width += character == kMalformed ? 1 : characterWidth(character);
   }
   return width;
 }
 
-Table::Table(std::vector<std::string> header) {
-  addRow(std::move(header));
+constexpr std::size_t kFirstRows = 100;
+constexpr std::size_t kWidest = 60;
+
+Table::Table(std::vector<std::string> header, std::function<void(std::string_view)> write) : m_write(std::move(write)) {
+  for (std::string& name : header) name = fitted(name, kWidest);
+  m_columns.resize(header.size());
+  m_first.push_back(std::move(header));
 }
 
-void Table::addRow(std::vector<std::string> cells) {
-  if (m_widths.size() < cells.size()) m_widths.resize(cells.size());
-  for (std::size_t i = 0; i < cells.size(); ++i) {
-    cells[i] = onOneLine(std::move(cells[i]));
-    m_widths[i] = std::max(m_widths[i], displayWidth(cells[i]));
-  }
-  m_rows.push_back(std::move(cells));
+void Table::addRow(const std::vector<std::string>& cells) {
+  if (m_hasWidths) return writeLine(cells);
+  std::vector<std::string> fitting;
+  fitting.reserve(cells.size());
+  for (const std::string& cell : cells) fitting.push_back(fitted(cell, kWidest));
+  if (m_columns.size() < cells.size()) m_columns.resize(cells.size());
+  m_first.push_back(std::move(fitting));
+  if (m_first.size() > kFirstRows) writeFirst();
 }
 
-std::string Table::text() const {
-  if (m_widths.empty()) return std::string();
-  std::string text;
-  const auto addLine = [&](const auto& cellOf) {
-    std::size_t gap = 0;
-    for (std::size_t i = 0; i < m_widths.size(); ++i) {
-      const std::string cell = cellOf(i);
-      if (!cell.empty()) text += std::string(gap, ' ') + cell;
-      gap = (cell.empty() ? gap : 0) + m_widths[i] - displayWidth(cell) + 2;
+void Table::finish() {
+  if (!m_hasWidths) writeFirst();
+}
+
+void Table::writeFirst() {
+  m_hasWidths = true;
+  for (const auto& row : m_first) {
+    for (std::size_t i = 0; i < row.size(); ++i) {
+      Column& column = m_columns[i];
+      column.width = std::max(column.width, displayWidth(row[i]));
+      if (&row == &m_first.front() || row[i].empty()) continue;
+      (isNumber(row[i]) ? column.hasNumber : column.hasOther) = true;
     }
-    text += '\n';
-  };
-  for (const auto& row : m_rows) {
-    addLine([&](std::size_t i) { return i < row.size() ? row[i] : std::string(); });
-    if (&row == &m_rows.front()) addLine([&](std::size_t i) { return std::string(m_widths[i], '-'); });
   }
-  return text;
+  if (m_columns.empty()) return;
+  for (const auto& row : m_first) {
+    writeLine(row);
+    if (&row != &m_first.front()) continue;
+    std::vector<std::string> rule;
+    for (const Column& column : m_columns) rule.emplace_back(column.width, '-');
+    writeLine(rule);
+  }
+  m_first.clear();
+}
+
+void Table::writeLine(const std::vector<std::string>& cells) {
+  std::string line;
+  std::size_t gap = 0;
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    const bool isKnown = i < m_columns.size();
+    const std::string cell = fitted(cells[i], isKnown ? m_columns[i].width : kWidest);
+    const std::size_t width = displayWidth(cell);
+    const std::size_t room = isKnown ? m_columns[i].width - width : 0;
+    const bool isRight = isKnown && m_columns[i].isRight();
+    if (!cell.empty()) line.append(gap + (isRight ? room : 0), ' ').append(cell);
+    gap = (cell.empty() ? gap + width : 0) + (isRight && !cell.empty() ? 0 : room) + 2;
+  }
+  line += '\n';
+  m_write(line);
 }
 
 }  // namespace dxmd_tool

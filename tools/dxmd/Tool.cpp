@@ -1,18 +1,26 @@
 #include "Tool.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <filesystem>
 #include <map>
 #include <memory>
 #include <new>
+#include <optional>
 #include <ostream>
+#include <system_error>
 
 #include <CLI/CLI.hpp>
 
 #include <tools/dxmd/Files.h>
+#include <tools/dxmd/Progress.h>
 #include <tools/dxmd/Registry.h>
 #include <tools/dxmd/ToolError.h>
 #include <tools/dxmd/Verbs.h>
 #include <tools/dxmd/json/Quote.h>
+#include <tools/dxmd/json/SecretNames.h>
+#include <tools/dxmd/text/Escape.h>
+#include <tools/dxmd/text/Suggest.h>
 
 namespace dxmd_tool {
 
@@ -30,9 +38,10 @@ Exit status:
   2  wrong usage
   3  a file cannot be read or written
   4  the input is not well-formed XML or JSON: the message names file, line and column
+  5  out of memory
 
-Passwords, passports and tickets print as *** in decoded JSON and are in no error text. XML that
-is written holds them: it is the message itself.
+Passwords, passports, tickets and the like print as *** in what is decoded and are in no error text.
+XML that is written holds them: it is the message itself, in a file that only its owner can read.
 
 Examples:
   dxmd kinds execute
@@ -90,14 +99,19 @@ class CommandLine {
 
   /// Does what the arguments ask for.
   /// @throws ToolError, CLI::ParseError
-  void run(std::vector<std::string> args, std::istream& in, std::ostream& out) {
+  void run(std::vector<std::string> args, std::istream& in, std::ostream& out, std::ostream& err,
+           const Console& console) {
     std::reverse(args.begin(), args.end());
     m_app.parse(args);
-    const std::string text = result(in);
-    if (m_settings.output.empty())
-      writeStream(out, text);
-    else
-      writeFile(m_settings.output, text);
+    const std::unique_ptr<Output> output = outputTo(out, console);
+    std::optional<Progress> progress;
+    if (console.errIsTerminal) {
+      progress.emplace(err, console.seconds, sizeOf(m_settings.file));
+      m_settings.onRead = [&progress](std::size_t bytes) { progress->advance(bytes); };
+    }
+    printResult(in, *output);
+    progress.reset();
+    output->finish();
   }
 
   /// The help of the verb and kind that were parsed.
@@ -117,6 +131,15 @@ class CommandLine {
     throw ToolError(kStatusUsage, reason + " (see " + command + " --help)");
   }
 
+  /// The same, for what the grammar refuses.
+  [[noreturn]] void fail(const CLI::ParseError& error) const {
+    const std::string reason = error.what();
+    const bool isUnexpected = dynamic_cast<const CLI::ExtrasError*>(&error) != nullptr;
+    const std::size_t argument = reason.rfind(": ");
+    fail(maskedText(reason) +
+         (isUnexpected && argument != std::string::npos ? didYouMean(reason.substr(argument + 2), options()) : ""));
+  }
+
  private:
   /// A verb has one subcommand for each kind that it takes, so that a kind's own options are that subcommand's.
   CLI::App* addVerb(const char* name, const char* help, KindOption::Verb verb) {
@@ -126,7 +149,7 @@ class CommandLine {
     addInputOutput(*app, verb);
     for (const Kind& kind : allKinds()) {
       if (verb == KindOption::kEncode ? !kind.encode : !kind.decode) continue;
-      CLI::App* command = app->add_subcommand(kind.name, kind.summary);
+      CLI::App* command = app->add_subcommand(kind.name, kind.summary)->ignore_case();
       command->group("Kinds");
       command->footer((kind.describe ? "Keys of the JSON: dxmd kinds " + kind.name + "\n" : "") + notesOf(kind));
       setUsage(*command, name + (" " + kind.name) + " [OPTIONS] [FILE]");
@@ -157,7 +180,8 @@ class CommandLine {
   }
 
   void addOutput(CLI::App& app) {
-    app.add_option("--output", m_settings.output, "Write this file, whole or not at all, instead of standard output")
+    app.add_option("--output", m_settings.output,
+                   "Write this file, whole or not at all; \"-\" is standard output, as by default")
         ->option_text("FILE");
   }
 
@@ -168,11 +192,29 @@ class CommandLine {
     if (!option.choices.empty()) added->check(CLI::IsMember(option.choices));
   }
 
-  std::string result(std::istream& in) {
+  std::unique_ptr<Output> outputTo(std::ostream& out, const Console& console) const {
+    if (!m_settings.output.empty() && m_settings.output != "-") return std::make_unique<FileOutput>(m_settings.output);
+    if (console.outIsTerminal) return std::make_unique<TerminalOutput>(out, console.hasColours);
+    return std::make_unique<StreamOutput>(out);
+  }
+
+  /// The size of the file; 0 when it is not known.
+  static std::uintmax_t sizeOf(const std::string& file) {
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(file, error);
+    return error ? 0 : size;
+  }
+
+  void printResult(std::istream& in, Output& out) {
     checkVerb();
     m_settings.kindOptions = KindOptions(m_kindValues);
-    if (m_encode->parsed()) return encode(kindOf(*m_encode), m_settings, in);
-    if (m_decode->parsed()) return decode(kindOf(*m_decode), m_settings, in);
+    if (m_encode->parsed()) return encode(kindOf(*m_encode), m_settings, in, out);
+    if (m_decode->parsed()) return decode(kindOf(*m_decode), m_settings, in, out);
+    out.write(description());
+  }
+
+  /// What there is to say of kinds.
+  std::string description() const {
     if (m_example->parsed()) return findKind(m_kindName).example + "\n";
     if (m_schema->parsed()) return schema(findKind(m_kindName));
     if (m_kindName.empty()) return m_json ? describeAllForPrograms() : listKinds();
@@ -185,7 +227,8 @@ class CommandLine {
     const bool hasVerb = !m_app.get_subcommands().empty();
     if (!extras.empty() && (hasVerb || isOption(extras[0]))) failUnexpected(extras[0]);
     if (!extras.empty())
-      fail(inQuotes(extras[0]) + " is no verb; the verbs are encode, decode, kinds, example and schema");
+      fail(inQuotes(extras[0]) + " is no verb; the verbs are encode, decode, kinds, example and schema" +
+           didYouMean(extras[0], {"encode", "decode", "kinds", "example", "schema"}));
     if (!hasVerb) fail("a verb is needed: encode, decode, kinds, example or schema");
   }
 
@@ -205,7 +248,17 @@ class CommandLine {
   static bool isOption(const std::string& argument) { return argument.compare(0, 1, "-") == 0; }
 
   [[noreturn]] void failUnexpected(const std::string& argument) const {
-    fail("unexpected argument " + inQuotes(argument));
+    fail("unexpected argument " + inQuotes(argument) + didYouMean(argument.substr(0, argument.find('=')), options()));
+  }
+
+  /// The options that are known where the command line ends.
+  std::vector<std::string> options() const {
+    const CLI::App* app = &m_app;
+    for (auto below = app->get_subcommands(); !below.empty(); below = app->get_subcommands()) app = below.back();
+    std::vector<std::string> names;
+    for (const CLI::Option* option : app->get_options())
+      for (const std::string& name : option->get_lnames()) names.push_back("--" + name);
+    return names;
   }
 
   CLI::App m_app;
@@ -222,31 +275,39 @@ class CommandLine {
 
 }  // namespace
 
-int runTool(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err) {
+int runTool(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err,
+            const Console& console) {
   Status status = kStatusOk;
   std::string message;
   try {
     CommandLine commandLine;
     try {
-      commandLine.run(args, in, out);
+      commandLine.run(args, in, out, err, console);
     } catch (const CLI::CallForHelp&) {
       writeStream(out, commandLine.help());
     } catch (const CLI::CallForVersion& version) {
       writeStream(out, version.what() + std::string("\n"));
     } catch (const CLI::ParseError& error) {
-      commandLine.fail(error.what());
+      commandLine.fail(error);
     }
   } catch (const ToolError& error) {
     status = error.status();
     message = error.what();
   } catch (const std::bad_alloc&) {
-    status = kStatusFile;
-    message = "out of memory";
+    status = kStatusMemory;
   } catch (const std::exception& error) {
     status = kStatusUnfit;
     message = error.what();
   }
-  if (status != kStatusOk) err << "dxmd: " << message << std::endl;
+  try {
+    message = escaped(message);
+  } catch (const std::bad_alloc&) {
+    status = kStatusMemory;
+  }
+  if (status == kStatusMemory)
+    err << "dxmd: out of memory" << std::endl;
+  else if (status != kStatusOk && !message.empty())
+    err << "dxmd: " << message << std::endl;
   return status;
 }
 

@@ -13,9 +13,11 @@ enum Status {
   kStatusUsage = 2,   ///< wrong usage
   kStatusFile = 3,    ///< a file cannot be read or written
   kStatusSyntax = 4,  ///< not well-formed XML or JSON
+  kStatusMemory = 5,  ///< out of memory
 };
 
-/// What ends a run: its exit status and the one line that says why, which begins with the name of the file concerned.
+/// What ends a run: its exit status and the one line that says why, which begins with the name of the file concerned,
+/// or is empty when nothing is to be said.
 class ToolError : public std::runtime_error {
  public:
   ToolError(Status status, const std::string& message) : std::runtime_error(message), m_status(status) {}

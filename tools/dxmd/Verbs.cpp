@@ -39,8 +39,13 @@ std::string inputName(const Settings& settings) {
   return settings.file == "-" ? "standard input" : settings.file;
 }
 
-std::string readInput(const Settings& settings, std::istream& in) {
-  return settings.file == "-" ? readStream(in, inputName(settings)) : readFile(settings.file);
+Source inputSource(const Settings& settings, std::istream& in) {
+  Source source = settings.file == "-" ? streamSource(in, inputName(settings)) : fileSource(settings.file);
+  return [source = std::move(source), &settings](char* buffer, std::size_t size) {
+    const std::size_t count = source(buffer, size);
+    settings.onRead(count);
+    return count;
+  };
 }
 
 /// Whether an option was given that stands for the input, with no file named beside it.
@@ -69,17 +74,23 @@ auto refusalsNamed(const std::string& name, const Action& action) {
   }
 }
 
+/// Runs what parses XML, and names the place where it is not well-formed.
+template <typename Action>
+auto syntaxErrorsNamed(const std::string& name, const Action& action) {
+  try {
+    return action();
+  } catch (const TRNIDOM_ParseError& error) {
+    throw ToolError(kStatusSyntax, name + ":" + std::to_string(error.getLine()) + ":" +
+                                       std::to_string(error.getColumn()) + ": " + error.getReason());
+  }
+}
+
 TRNIDOM_Document parseXml(const std::string& text, const std::string& name) {
   const std::size_t first = text.find_first_not_of(" \t\r\n");
   if (first == std::string::npos) throw ToolError(kStatusSyntax, name + ":1:1: empty where XML is expected");
   if (text[first] == '{' || text[first] == '[')
     throw ToolError(kStatusSyntax, name + ":1:1: not XML: this looks like JSON");
-  try {
-    return TRNIDOM_Parser::parseString(text);
-  } catch (const TRNIDOM_ParseError& error) {
-    throw ToolError(kStatusSyntax, name + ":" + std::to_string(error.getLine()) + ":" +
-                                       std::to_string(error.getColumn()) + ": " + error.getReason());
-  }
+  return syntaxErrorsNamed(name, [&] { return TRNIDOM_Parser::parseString(text); });
 }
 
 /// Refuses a document of another kind.
@@ -106,13 +117,52 @@ std::string xmlLine(const TRNIDOM_Node& node, unsigned indent) {
   return xml;
 }
 
-std::string jsonLine(Json& json, const Kind& kind, const Settings& settings) {
-  checkJsonDepth(json);
-  if (!settings.showSecrets) {
-    const Description description = kind.describe ? kind.describe() : Description();
-    maskSecrets(json, kind.describe ? &description.whole() : nullptr);
+/// Hands what describes the kind's JSON to the action; null when nothing does.
+template <typename Action>
+auto withDescription(const Kind& kind, const Action& action) {
+  const Description description = kind.describe ? kind.describe() : Description();
+  return action(kind.describe ? &description.whole() : nullptr);
+}
+
+void printDecoded(const Decoded& decoded, const Kind& kind, const Settings& settings, Output& out) {
+  if (settings.showSecrets) out.holdsSecrets();
+  if (Json* const json = decoded.json()) {
+    checkJsonDepth(*json);
+    if (!settings.showSecrets)
+      withDescription(kind, [&](const DescribedRecord* record) { maskSecrets(*json, record); });
+    out.isJson();
+    out.write(toText(*json, settings.indent.value_or(kJsonIndent)) + "\n");
+  } else if (!decoded.element().isNull()) {
+    // A message to send on, which would be of no use without its secrets.
+    if (holdsSecrets(decoded.element())) out.holdsSecrets();
+    out.write(xmlLine(decoded.element(), settings.indent.value_or(0)));
+  } else if (decoded.print()) {
+    decoded.print()({out, settings.indent.value_or(kJsonIndent), settings.showSecrets});
+  } else {
+    out.write(settings.showSecrets ? decoded.text() : shownText(decoded.text()));
   }
-  return toText(json, settings.indent.value_or(kJsonIndent)) + "\n";
+}
+
+/// Decodes a document of which `start` was read and more is to come, without having all of it in memory.
+Decoded decodeLarge(const Kind& kind, const Settings& settings, const std::string& start, const Source& rest,
+                    const std::string& name) {
+  const PieceDecoder pieces = kind.decodePieces(settings.kindOptions);
+  std::size_t given = 0;
+  const Source whole = [&](char* buffer, std::size_t size) {
+    if (given == start.size()) return rest(buffer, size);
+    const std::size_t count = start.copy(buffer, size, given);
+    given += count;
+    return count;
+  };
+  const TRNIDOM_Document document =
+      syntaxErrorsNamed(name, [&] { return TRNIDOM_Parser::parseEach(whole, pieces.element.c_str(), pieces.visit); });
+  TRNIDOM_Element root = document.getDocumentElement();
+  if (root.isNull()) throw ToolError(kStatusUnfit, name + ": no " + kind.name + ": it is one " + pieces.element);
+  checkRoot(kind, root, name);
+  if (!pieces.fits(root))
+    throw ToolError(kStatusUnfit, name + ": a document of this size is read one " + inQuotes(pieces.element) +
+                                      " at a time, and in this one they do not all stand in one place");
+  return pieces.finish(root);
 }
 
 std::string headerOf(const Kind& kind) {
@@ -158,26 +208,50 @@ Json forPrograms(const Kind& kind) {
 
 }  // namespace
 
-std::string encode(const Kind& kind, const Settings& settings, std::istream& in) {
+void encode(const Kind& kind, const Settings& settings, std::istream& in, Output& out) {
   const std::string name = inputName(settings);
-  return refusalsNamed(name, [&] {
-    const Json json = inputIsReplaced(kind, settings) ? Json::object() : parseJson(readInput(settings, in), name);
+  refusalsNamed(name, [&] {
+    const Json json =
+        inputIsReplaced(kind, settings) ? Json::object() : parseJson(readSource(inputSource(settings, in)), name);
     TRNIDOM_Element element;
-    readObject(json, name, [&](JsonObject& object) { element = kind.encode(object, settings.kindOptions); });
-    return xmlLine(element, settings.indent.value_or(0));
+    requireXmlCharacters(json, name);
+    readObject(json, name, [&](JsonObject& object) {
+      withDescription(kind, [&](const DescribedRecord* record) {
+        refuseMasks(json, record, name);
+        if (holdsSecrets(json, record)) out.holdsSecrets();
+      });
+      element = kind.encode(object, settings.kindOptions);
+    });
+    if (holdsSecrets(element)) out.holdsSecrets();
+    out.write(xmlLine(element, settings.indent.value_or(0)));
   });
 }
 
-std::string decode(const Kind& kind, const Settings& settings, std::istream& in) {
+void decode(const Kind& kind, const Settings& settings, std::istream& in, Output& out) {
+  // What is larger is decoded piece by piece where the kind knows how.
+  constexpr std::size_t kWhole = std::size_t{4} << 20;
   const std::string name = inputName(settings);
-  TRNIDOM_Element root = parseXml(readInput(settings, in), name).getDocumentElement();
-  checkRoot(kind, root, name);
-  return refusalsNamed(name, [&] {
-    const Decoded decoded = kind.decode(root, settings.kindOptions);
-    if (Json* const json = decoded.json()) return jsonLine(*json, kind, settings);
-    if (!decoded.element().isNull()) return xmlLine(decoded.element(), settings.indent.value_or(0));
-    return decoded.text();
+  const Source source = inputSource(settings, in);
+  const std::string text = kind.decodePieces ? readSource(source, kWhole) : readSource(source);
+  refusalsNamed(name, [&] {
+    if (kind.decodePieces && text.size() == kWhole)
+      return printDecoded(decodeLarge(kind, settings, text, source, name), kind, settings, out);
+    TRNIDOM_Element root = parseXml(text, name).getDocumentElement();
+    checkRoot(kind, root, name);
+    printDecoded(kind.decode(root, settings.kindOptions), kind, settings, out);
   });
+}
+
+std::string encode(const Kind& kind, const Settings& settings, std::istream& in) {
+  StringOutput out;
+  encode(kind, settings, in, out);
+  return out.take();
+}
+
+std::string decode(const Kind& kind, const Settings& settings, std::istream& in) {
+  StringOutput out;
+  decode(kind, settings, in, out);
+  return out.take();
 }
 
 std::string listKinds() {

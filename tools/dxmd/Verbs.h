@@ -1,10 +1,13 @@
 #ifndef TOOLS_DXMD_VERBS_H
 #define TOOLS_DXMD_VERBS_H
 
+#include <cstddef>
+#include <functional>
 #include <iosfwd>
 #include <optional>
 #include <string>
 
+#include <tools/dxmd/Files.h>
 #include <tools/dxmd/Kind.h>
 
 namespace dxmd_tool {
@@ -15,15 +18,18 @@ struct Settings {
   std::string output;              ///< empty is standard output
   std::optional<unsigned> indent;  ///< by default 0 for XML, 2 for JSON
   bool showSecrets = false;
+  std::function<void(std::size_t bytes)> onRead = [](std::size_t) {};  ///< told of what is read of the input
   KindOptions kindOptions;
 };
 
 // What each verb gives to print. @throws ToolError
 
 /// JSON read, XML written.
+void encode(const Kind& kind, const Settings& settings, std::istream& in, Output& out);
 std::string encode(const Kind& kind, const Settings& settings, std::istream& in);
 
 /// XML read, JSON written, or what the kind gives in its stead.
+void decode(const Kind& kind, const Settings& settings, std::istream& in, Output& out);
 std::string decode(const Kind& kind, const Settings& settings, std::istream& in);
 
 /// The kinds, one line each.

@@ -31,11 +31,57 @@ TEST(Binary, StandardInputThatCannotBeReadIsStatus3) {
   EXPECT_EQ("dxmd: standard input: cannot be read\n", bytesOf(folder.path("err")));
 }
 
-TEST(Binary, FullDiskAndClosedPipeAreStatus3) {
+TEST(Binary, FullDiskIsStatus3) {
   const TempFolder folder;
   EXPECT_EQ(3, shell("dxmd kinds > /dev/full 2> " + folder.path("err")));
   EXPECT_EQ("dxmd: standard output: cannot be written: No space left on device\n", bytesOf(folder.path("err")));
+}
+
+TEST(Binary, ClosedPipeEndsQuietly) {
+  const TempFolder folder;
   // The reader is gone before the first byte is written.
-  EXPECT_EQ(3, shell("exec 3> >(:); wait $!; dxmd kinds >&3 2> " + folder.path("err")));
-  EXPECT_EQ("dxmd: standard output: cannot be written: Broken pipe\n", bytesOf(folder.path("err")));
+  constexpr int kBySigpipe = 128 + 13;
+  EXPECT_EQ(kBySigpipe, shell("exec 3> >(:); wait $!; dxmd kinds >&3 2> " + folder.path("err")));
+  EXPECT_EQ("", bytesOf(folder.path("err")));
+  EXPECT_EQ(3, shell("trap '' PIPE; exec 3> >(:); wait $!; dxmd kinds >&3 2> " + folder.path("err")));
+  EXPECT_EQ("", bytesOf(folder.path("err")));
+}
+
+TEST(Binary, FileThatMayNotGrowLeavesNothing) {
+  const TempFolder folder;
+  const std::string out = folder.add("out", "old");
+  EXPECT_EQ(3, shell("ulimit -f 1; dxmd kinds --json --output " + out + " 2> " + folder.path("err")));
+  EXPECT_EQ("dxmd: " + out + ": cannot be written: File too large\n", bytesOf(folder.path("err")));
+  EXPECT_EQ("old", bytesOf(out));
+  EXPECT_EQ((std::vector<std::string>{"err", "out"}), folder.names());
+}
+
+TEST(Binary, StandardOutputByNameIsAppendedTo) {
+  const TempFolder folder;
+  const std::string log = folder.add("log", "before\n");
+  EXPECT_EQ(0, shell("dxmd encode closeConnections --output /dev/stdout <<< {} >> " + log));
+  EXPECT_EQ(0, shell("dxmd encode closeConnections --output - <<< {} >> " + log));
+  const std::string line = run({"encode", "closeConnections"}, "{}").out;
+  EXPECT_EQ("before\n" + line + line, bytesOf(log));
+  EXPECT_EQ(std::vector<std::string>{"log"}, folder.names());
+}
+
+TEST(Binary, OutputMayBeAPipe) {
+  const TempFolder folder;
+  const std::string pipe = folder.path("pipe");
+  EXPECT_EQ(0, shell("mkfifo " + pipe + "; cat " + pipe + " > " + folder.path("got") +
+                     " & dxmd encode closeConnections --output " + pipe + " <<< {} && wait $!"));
+  EXPECT_EQ(run({"encode", "closeConnections"}, "{}").out, bytesOf(folder.path("got")));
+  EXPECT_EQ((std::vector<std::string>{"got", "pipe"}), folder.names());
+}
+
+TEST(Binary, OutOfMemoryIsStatus5AndNoAbort) {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+  GTEST_SKIP() << "sanitizers reserve more memory than that";
+#endif
+  const TempFolder folder;
+  const std::string xml = folder.add("deep.xml", "<response>" + std::string(100 << 20, ' ') + "</response>");
+  // 200 MB hold the program, but not a text of 100 MB and its tree.
+  EXPECT_EQ(5, shell("ulimit -v 200000; dxmd decode validateReply " + xml + " 2> " + folder.path("err")));
+  EXPECT_EQ("dxmd: out of memory\n", bytesOf(folder.path("err")));
 }

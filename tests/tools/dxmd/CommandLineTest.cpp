@@ -1,8 +1,12 @@
 #include <algorithm>
+#include <filesystem>
+#include <sstream>
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <tools/dxmd/Registry.h>
+#include <tools/dxmd/Tool.h>
 
 #include "RunTool.h"
 
@@ -31,7 +35,8 @@ TEST(CommandLine, WrongUsageIsStatus2) {
   EXPECT_EQ(2, run({"encode", "execute", "a", "b"}).status);
   EXPECT_EQ(2, run({"encode", "execute", "--indent", "x"}, "{}").status);
   EXPECT_EQ(2, run({"encode", "execute", "--indent", "-1"}, "{}").status);
-  EXPECT_EQ(2, run({"decode", "response", "--format", "csv"}).status);
+  EXPECT_EQ(2, run({"decode", "response", "--format", "xls"}).status);
+  EXPECT_EQ(2, run({"decode", "response", "--limit", "-1"}, "<response/>").status);
   EXPECT_EQ(2, run({"decode", "response", "--output"}).status);
   expectFailure(kStatusUsage, "a verb is needed: encode, decode, kinds, example or schema (see dxmd --help)", run({}));
   expectFailure(kStatusUsage,
@@ -65,6 +70,100 @@ TEST(CommandLine, HelpListsStatusesKindsAndNotes) {
   EXPECT_TRUE(has(run({"decode", "response", "--help"}).out, "--format"));
   EXPECT_TRUE(has(run({"kinds", "response"}).out, "--format"));
   EXPECT_EQ("dxmd " DXMD_VERSION "\n", run({"--version"}).out);
+}
+
+TEST(CommandLine, WhatIsMistypedIsSuggested) {
+  EXPECT_TRUE(has(run({"encdoe"}).err, "; did you mean \"encode\"? (see"));
+  EXPECT_TRUE(has(run({"encode", "excute"}).err, "; did you mean \"execute\"?\n"));
+  EXPECT_TRUE(has(run({"decode", "response", "--fromat", "csv"}).err, "; did you mean \"--format\"? (see"));
+  EXPECT_FALSE(has(run({"encode", "nonsense"}).err, "did you mean"));
+}
+
+TEST(CommandLine, KindsAreKnownInAnyCase) {
+  EXPECT_EQ(run({"encode", "closeConnections"}, "{}").out, run({"encode", "CLOSECONNECTIONS"}, "{}").out);
+  EXPECT_EQ(run({"example", "execute"}).out, run({"example", "Execute"}).out);
+}
+
+TEST(CommandLine, NothingReachesATerminalRaw) {
+  const std::string raw = "\x1B[2J\xC2\x9B\xE2\x80\xAE\xE2\x80\xA8\n";
+  const std::string shown = R"(\x1B[2J\x9B\u202E\u2028\n)";
+  EXPECT_TRUE(has(run({"decode", "response", raw}).err, shown + ": cannot be read"));
+  EXPECT_FALSE(has(run({"encode", raw}).err, "\x1B"));
+  EXPECT_FALSE(has(run({"encode", "execute"}, "{\"\xC2\x9B\": 1}").err, "\xC2\x9B"));
+  const std::string xml =
+      "<response><columnList><c name='a'/></columnList><resultData><row><value v='\xC2\x9B\xE2\x80\xAE'/>"
+      "</row></resultData></response>";
+  EXPECT_TRUE(has(run({"decode", "response"}, xml).out, R"("\u009B\u202E")"));
+  EXPECT_TRUE(has(run({"decode", "response", "--format", "table"}, xml).out, R"(\x9B\u202E)"));
+  // CSV is for programs, but on a terminal it is looked at.
+  EXPECT_TRUE(has(run({"decode", "response", "--format", "csv"}, xml).out, "\xC2\x9B"));
+  std::istringstream in(xml);
+  std::ostringstream out;
+  std::ostringstream err;
+  Console terminal;
+  terminal.outIsTerminal = true;
+  runTool({"decode", "response", "--format", "csv"}, in, out, err, terminal);
+  EXPECT_EQ("a\r\n\\x9B\\u202E\r\n", out.str());
+}
+
+TEST(CommandLine, JsonIsColouredOnATerminalThatHasColours) {
+  std::istringstream in("<response/>");
+  std::ostringstream out;
+  std::ostringstream err;
+  Console terminal;
+  terminal.outIsTerminal = true;
+  terminal.hasColours = true;
+  runTool({"decode", "response"}, in, out, err, terminal);
+  EXPECT_EQ("{\n  \x1B[34m\"rows\"\x1B[0m: []\n}\n", out.str());
+}
+
+TEST(CommandLine, ProgressIsToldOnATerminalAfterASecond) {
+  double now = 0;
+  Console terminal;
+  terminal.errIsTerminal = true;
+  terminal.seconds = [&] { return now; };
+  const auto told = [&] {
+    std::istringstream in("<response/>");
+    std::ostringstream out;
+    std::ostringstream err;
+    runTool({"decode", "response"}, in, out, err, terminal);
+    return err.str();
+  };
+  EXPECT_EQ("", told());
+  now = 1.5;
+  EXPECT_EQ("\r\x1B[Kdxmd: 0 MB read\r\x1B[K", told());
+}
+
+TEST(CommandLine, FileOfSecretsIsItsOwnersAlone) {
+  const TempFolder folder;
+  const auto modeOf = [&](const std::string& kind, const std::string& json) {
+    const std::string path = folder.path(kind + std::to_string(json.size()));
+    EXPECT_EQ(0, run({"encode", kind, "--output", path}, json).status);
+    return static_cast<unsigned>(std::filesystem::status(path).permissions());
+  };
+  const mode_t mask = ::umask(022);
+  EXPECT_EQ(0644u, modeOf("closeConnections", "{}"));
+  EXPECT_EQ(0600u, modeOf("connection", R"({"password": "p"})"));
+  EXPECT_EQ(0644u, modeOf("connection", R"({"username": "us"})"));
+  ::umask(mask);
+}
+
+TEST(CommandLine, MaskInPlaceOfASecretIsRefused) {
+  const std::string why =
+      ": *** stands where a secret belongs: give the secret itself (dxmd decode --show-secrets prints it)";
+  expectFailure(kStatusUnfit, "standard input: $.password" + why,
+                run({"encode", "connection"}, R"({"password": "***"})"));
+  expectFailure(kStatusUnfit, "standard input: $.dataSources[0].connection" + why,
+                run({"encode", "response"}, R"({"dataSources": [{"connection": "UID=u;PWD=***;DB=x"}]})"));
+  expectFailure(kStatusUnfit, "standard input: $.rows[0][0]" + why,
+                run({"encode", "response"}, R"({"columnList": [{"name": "password"}], "rows": [["***"]]})"));
+  EXPECT_EQ(0, run({"encode", "connection"}, R"({"username": "***", "password": "a***b"})").status);
+}
+
+TEST(CommandLine, CharacterThatXmlLacksIsRefusedWithItsPlace) {
+  expectFailure(kStatusUnfit, "standard input: $.rows[0][1]: U+0001 is no character of XML",
+                run({"encode", "response"}, R"({"rows": [["", "a\u0001"]]})"));
+  EXPECT_TRUE(has(run({"encode", "response"}, "{\"rows\": [[\"\", \"a\x01\"]]}").err, " (in $.rows[0][1])\n"));
 }
 
 TEST(CommandLine, KindsAreListedOnALineEach) {

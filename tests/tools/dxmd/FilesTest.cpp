@@ -1,5 +1,7 @@
 #include <tools/dxmd/Files.h>
 
+#include <csignal>
+#include <cstdlib>
 #include <filesystem>
 #include <sstream>
 
@@ -69,4 +71,68 @@ TEST(Files, StreamThatFailsIsAnError) {
   std::istringstream in("x");
   in.setstate(std::ios::badbit);
   expectToolError(kStatusFile, "in: cannot be read", [&] { readStream(in, "in"); });
+}
+
+TEST(Files, DanglingLinkIsFollowed) {
+  const TempFolder folder;
+  std::filesystem::create_symlink("target", folder.path("link"));
+  writeFile(folder.path("link"), "new");
+  EXPECT_EQ("new", bytesOf(folder.path("target")));
+  std::filesystem::create_symlink("loop", folder.path("loop"));
+  expectToolError(kStatusFile, folder.path("loop") + ": cannot be written: Too many levels of symbolic links",
+                  [&] { writeFile(folder.path("loop"), "new"); });
+  EXPECT_EQ((std::vector<std::string>{"link", "loop", "target"}), folder.names());
+}
+
+TEST(Files, NameMayBeAsLongAsNamesMayBe) {
+  const TempFolder folder;
+  const std::string name(255, 'x');
+  writeFile(folder.path(name), "new");
+  writeFile(folder.path(name), "newer");
+  EXPECT_EQ("newer", bytesOf(folder.path(name)));
+}
+
+TEST(Files, SetUserIdIsNotKeptAndOwnerIs) {
+  const TempFolder folder;
+  const std::string path = folder.add("out", "old");
+  ::chmod(path.c_str(), 06755);
+  const bool isRoot = ::geteuid() == 0;
+  if (isRoot) {
+    ASSERT_EQ(0, ::chown(path.c_str(), 1234, 2345));
+  }
+  ::chmod(path.c_str(), 06755);
+  writeFile(path, "new");
+  EXPECT_EQ(0755u, modeOf(path));
+  struct stat status {};
+  ::stat(path.c_str(), &status);
+  EXPECT_EQ(isRoot ? 1234u : ::geteuid(), status.st_uid);
+}
+
+TEST(Files, UnfinishedOutputLeavesNothing) {
+  const TempFolder folder;
+  const std::string path = folder.add("out", "old");
+  {
+    FileOutput file(path);
+    file.write("new");
+    EXPECT_EQ(2u, folder.names().size());
+  }
+  EXPECT_EQ("old", bytesOf(path));
+  EXPECT_EQ(std::vector<std::string>{"out"}, folder.names());
+}
+
+TEST(Files, SignalsLeaveNothing) {
+  for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+    const TempFolder folder;
+    const std::string path = folder.add("out", "old");
+    EXPECT_EXIT(
+        {
+          FileOutput file(path);
+          file.write("new");
+          if (folder.names().size() != 2) std::_Exit(0);
+          std::raise(signal);
+        },
+        testing::KilledBySignal(signal), "");
+    EXPECT_EQ("old", bytesOf(path));
+    EXPECT_EQ(std::vector<std::string>{"out"}, folder.names());
+  }
 }

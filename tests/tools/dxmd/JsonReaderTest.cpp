@@ -81,13 +81,28 @@ TEST(JsonReader, RefusalsNameThePlace) {
 }
 
 TEST(JsonReader, KeyThatNobodyAskedForIsRefused) {
-  expectRefused(R"(in: $.inner: unknown key "nmae"; known are "name", "tag")",
+  expectRefused(R"(in: $.inner: unknown key "nmae"; known are "name", "tag"; did you mean "name"?)",
                 R"({"inner": {"name": "x", "nmae": "y"}})", [](JsonObject& json) {
                   json.required("inner").object([](JsonObject& inner) {
                     inner.required("name").text();
                     inner.optional("tag").text();
                   });
                 });
+}
+
+TEST(JsonReader, MissingAndUnknownKeysAreToldTogether) {
+  const auto readItem = [](JsonObject& json) {
+    json.required("name").text();
+    json.required("size").enumerator(kSizes);
+    json.optional("tag").text();
+  };
+  expectRefused(R"(in: $: the keys "name" and "size" are missing; unknown keys "nam", "x"; )"
+                R"(known are "name", "size", "tag"; did you mean "name"?)",
+                R"({"nam": 1, "x": 2})", readItem);
+  // What a reader makes of a key that is missing is not what is wrong.
+  expectRefused(R"(in: $: the key "name" is missing)", "{}", [](JsonObject& json) {
+    if (json.required("name").text().empty()) throw std::logic_error("empty");
+  });
 }
 
 TEST(JsonReader, NumbersKeepToTheirRange) {

@@ -109,6 +109,7 @@ Json RandomJson::value(const DescribedType& type, const DescribedKey& key, int d
   switch (type.of) {
     case DescribedType::kText:
       if (!type.choices.empty()) return type.choices[below(type.choices.size())];
+      if (key.nullableItems && oneIn(4)) return nullptr;
       return text();
     case DescribedType::kLocale:
       return text();

@@ -44,7 +44,9 @@ class Builder : public nlohmann::json_sax<Json> {
 
   bool parse_error(std::size_t position, const std::string& lastToken, const Json::exception& error) override {
     // The position is that of the character behind the last one read.
-    failAt(position == 0 ? 0 : position - 1, reason(lastToken, error));
+    const std::string why = reason(lastToken, error);
+    const bool isControl = why.find("control character") != std::string::npos;
+    failAt(position == 0 ? 0 : position - 1, why + (isControl ? " (in " + placeOfNext() + ")" : ""));
   }
 
   [[noreturn]] void failAt(std::size_t position, const std::string& reason) const {
@@ -117,6 +119,18 @@ class Builder : public nlohmann::json_sax<Json> {
         JsonPlace::appendStep(path, level.key, 0);
     }
     return path;
+  }
+
+  /// The path of the value that comes next, or of the object whose key does.
+  std::string placeOfNext() const {
+    std::string place = path();
+    if (m_open.empty()) return place;
+    const Open& last = m_open.back();
+    if (last.value->is_array())
+      JsonPlace::appendStep(place, std::string_view(), last.value->size());
+    else if (!last.key.empty() && last.value->size() < last.keys.size())
+      JsonPlace::appendStep(place, last.key, 0);
+    return place;
   }
 
   const std::string& m_text;

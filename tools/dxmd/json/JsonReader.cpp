@@ -9,6 +9,8 @@
 
 #include <tools/dxmd/json/Json.h>
 #include <tools/dxmd/json/JsonError.h>
+#include <tools/dxmd/text/Escape.h>
+#include <tools/dxmd/text/Suggest.h>
 
 namespace dxmd_tool {
 
@@ -96,7 +98,13 @@ void JsonValue::object(const std::function<void(JsonObject&)>& read) const {
   if (m_json == nullptr) return;
   if (!m_json->is_object()) failType("an object");
   JsonObject object(*m_json, m_place);
-  read(object);
+  try {
+    read(object);
+  } catch (const std::exception&) {
+    // What a reader found wrong may come from reading a missing key as empty.
+    if (object.isMissingAny()) object.finish();
+    throw;
+  }
   object.finish();
 }
 
@@ -138,6 +146,10 @@ bool JsonValue::isText() const {
   return m_json != nullptr && m_json->is_string();
 }
 
+bool JsonValue::isNull() const {
+  return m_json != nullptr && m_json->is_null();
+}
+
 bool JsonValue::isList() const {
   return m_json != nullptr && m_json->is_array();
 }
@@ -152,7 +164,7 @@ bool JsonObject::has(std::string_view key) const {
 
 JsonValue JsonObject::required(std::string_view key) {
   const JsonValue value = optional(key);
-  if (!value) fail("the key " + inQuotes(std::string(key)) + " is missing");
+  if (!value) m_missing.emplace_back(key);
   return value;
 }
 
@@ -164,16 +176,68 @@ JsonValue JsonObject::optional(std::string_view key) {
 }
 
 void JsonObject::finish() const {
-  for (const auto& member : m_json.get_ref<const Json::object_t&>()) {
-    if (std::find(m_known.begin(), m_known.end(), member.first) != m_known.end()) continue;
-    std::string known;
-    for (const std::string& key : m_known) known += (known.empty() ? "" : ", ") + inQuotes(key);
-    fail("unknown key " + inQuotes(member.first) + "; known are " + known);
+  std::string reason;
+  if (!m_missing.empty()) {
+    reason = m_missing.size() == 1 ? "the key " : "the keys ";
+    for (std::size_t i = 0; i < m_missing.size(); ++i)
+      reason += (i == 0 ? "" : i + 1 < m_missing.size() ? ", " : " and ") + inQuotes(m_missing[i]);
+    reason += m_missing.size() == 1 ? " is missing" : " are missing";
   }
+  std::vector<std::string> unknown;
+  for (const auto& member : m_json.get_ref<const Json::object_t&>())
+    if (std::find(m_known.begin(), m_known.end(), member.first) == m_known.end()) unknown.push_back(member.first);
+  if (!unknown.empty()) {
+    // More than some are a whole object of another sort.
+    constexpr std::size_t kMost = 5;
+    reason += std::string(reason.empty() ? "" : "; ") + (unknown.size() == 1 ? "unknown key " : "unknown keys ");
+    for (std::size_t i = 0; i < std::min(unknown.size(), kMost); ++i)
+      reason += (i == 0 ? "" : ", ") + inQuotes(unknown[i]);
+    if (unknown.size() > kMost) reason += ", ...";
+    reason += "; known are ";
+    for (const std::string& key : m_known) reason += (&key == &m_known.front() ? "" : ", ") + inQuotes(key);
+    for (std::size_t i = 0; i < std::min(unknown.size(), kMost); ++i) reason += didYouMean(unknown[i], m_known);
+  }
+  if (!reason.empty()) fail(reason);
 }
 
 void JsonObject::fail(const std::string& reason) const {
   JsonValue(&m_json, m_place).fail(reason);
+}
+
+namespace {
+
+void requireXmlCharacters(std::string_view text, const JsonPlace& place) {
+  for (std::size_t at = 0; at < text.size();) {
+    const char32_t character = nextCharacter(text, at);
+    const bool isControlOfXml = character == '\t' || character == '\n' || character == '\r';
+    if ((character >= 0x20 || isControlOfXml) && character != 0xFFFE && character != 0xFFFF) continue;
+    constexpr const char* kHex = "0123456789ABCDEF";
+    std::string number;
+    for (const int shift : {12, 8, 4, 0}) number += kHex[character >> shift & 0xF];
+    throw JsonError(JsonError::kUnfit,
+                    std::string(place.source()) + ": " + place.path() + ": U+" + number + " is no character of XML");
+  }
+}
+
+void requireXmlCharacters(const Json& json, const JsonPlace& place) {
+  if (json.is_object()) {
+    for (const auto& member : json.get_ref<const Json::object_t&>()) {
+      const JsonPlace below{&place, member.first};
+      requireXmlCharacters(std::string_view(member.first), below);
+      requireXmlCharacters(member.second, below);
+    }
+  } else if (json.is_array()) {
+    std::size_t index = 0;
+    for (const Json& item : json) requireXmlCharacters(item, JsonPlace{&place, std::string_view(), index++});
+  } else if (json.is_string()) {
+    requireXmlCharacters(std::string_view(json.get_ref<const std::string&>()), place);
+  }
+}
+
+}  // namespace
+
+void requireXmlCharacters(const Json& json, const std::string& source) {
+  requireXmlCharacters(json, JsonPlace{nullptr, source});
 }
 
 void readObject(const Json& json, const std::string& source, const std::function<void(JsonObject&)>& read) {

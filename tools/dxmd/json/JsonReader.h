@@ -89,6 +89,7 @@ class JsonValue {
   void members(const std::function<void(const I18NString& key, const JsonValue&)>& read) const;
 
   bool isText() const;
+  bool isNull() const;
   bool isList() const;
   bool isObject() const;
   /// The number of items or members; 0 for anything else.
@@ -117,14 +118,17 @@ class JsonObject {
   /// Whether the member is there; does not ask for it.
   bool has(std::string_view key) const;
 
-  /// The member, which must be there.
+  /// The member, which must be there. One that is missing reads as an optional one, and is refused by `finish`.
   JsonValue required(std::string_view key);
 
   /// The member, or none.
   JsonValue optional(std::string_view key);
 
-  /// Refuses members that were not asked for, listing those that were.
+  /// Refuses required members that are missing, and members that were not asked for, listing those that were.
   void finish() const;
+
+  /// Whether a required member is missing.
+  bool isMissingAny() const { return !m_missing.empty(); }
 
   /// Refuses the object, for a reason that shows none of its values.
   [[noreturn]] void fail(const std::string& reason) const;
@@ -133,7 +137,12 @@ class JsonObject {
   const Json& m_json;
   const JsonPlace m_place;
   std::vector<std::string> m_known;
+  std::vector<std::string> m_missing;
 };
+
+/// Refuses texts and keys with characters that XML does not have.
+/// @throws JsonError with the place
+void requireXmlCharacters(const Json& json, const std::string& source);
 
 /// Reads a whole text, which must be one object; `source` names it in errors.
 void readObject(const Json& json, const std::string& source, const std::function<void(JsonObject&)>& read);

@@ -5,14 +5,37 @@
 
 #include <trnidom/TRNIDOM_Writer.h>
 
+#include <tools/dxmd/text/Escape.h>
+
 namespace dxmd_tool {
 
 namespace {
 
 constexpr std::size_t kLineWidth = 100;
 
+void appendOnOneLine(std::string& out, const Json& json) {
+  if (json.is_string()) return appendJsonString(out, json.get_ref<const std::string&>());
+  if (!json.is_structured()) {
+    out += json.dump();
+    return;
+  }
+  out += json.is_array() ? '[' : '{';
+  const char* separator = "";
+  for (const auto& item : json.items()) {
+    out += std::exchange(separator, ",");
+    if (json.is_object()) {
+      appendJsonString(out, item.key());
+      out += ':';
+    }
+    appendOnOneLine(out, item.value());
+  }
+  out += json.is_array() ? ']' : '}';
+}
+
 std::string plainText(const Json& json) {
-  return json.dump(-1, ' ', false, Json::error_handler_t::replace);
+  std::string text;
+  appendOnOneLine(text, json);
+  return text;
 }
 
 bool fitsOneLine(const Json& json, std::size_t width) {
@@ -39,7 +62,10 @@ void write(std::string& out, const Json& json, unsigned indent, std::size_t colu
     out += separator;
     separator = oneLine ? ", " : ",";
     if (!oneLine) out += '\n' + std::string(inner, ' ');
-    if (json.is_object()) out += plainText(item.key()) + ": ";
+    if (json.is_object()) {
+      appendJsonString(out, item.key());
+      out += ": ";
+    }
     write(out, item.value(), indent, inner);
   }
   if (!oneLine) out += '\n' + std::string(column, ' ');

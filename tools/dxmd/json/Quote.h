@@ -5,7 +5,7 @@
 
 namespace dxmd_tool {
 
-/// The text between quotes for an error text: in ASCII but for letters, one line, cut when long.
+/// The text between quotes for an error text: on one line, without secrets, cut when long.
 std::string inQuotes(const std::string& text);
 
 }  // namespace dxmd_tool

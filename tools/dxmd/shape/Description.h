@@ -60,6 +60,7 @@ struct DescribedKey {
   bool alwaysWritten = false;  ///< decoded JSON has it, whatever its value
   bool nonEmpty = false;       ///< an empty text or list is refused
   bool nonEmptyItems = false;  ///< an empty text in a list of texts is refused
+  bool nullableItems = false;  ///< a text in a list of texts may be null
   bool elementNames = false;   ///< the keys of an object of texts must be names of elements
   bool lines = false;          ///< a text that is not empty ends with a line feed
   bool secret = false;

@@ -91,6 +91,11 @@ class SchemaWriter {
     if (key.nonEmpty) json[key.type.of == DescribedType::kList ? "minItems" : "minLength"] = 1;
     if (key.nonEmptyItems) json["items"]["minLength"] = 1;
     if (key.lines) json["pattern"] = "(^|\n)$";
+    if (key.nullableItems) {
+      Json* item = &json;
+      while (item->contains("items")) item = &(*item)["items"];
+      (*item)["type"] = {(*item)["type"], "null"};
+    }
     if (key.elementNames) json["propertyNames"] = Json{{"pattern", kElementName}};
     if (!key.otherwise.empty()) json["default"] = Json::parse(key.otherwise);
     return json;
@@ -222,6 +227,7 @@ std::string factsOf(const DescribedKey& key) {
     add("From " + std::to_string(inner.least) + " to " + std::to_string(inner.most));
   if (key.nonEmpty) add("Not empty");
   if (key.nonEmptyItems) add("No text in it is empty");
+  if (key.nullableItems) add("A text in it may be null");
   if (key.elementNames) add("Keys are names of elements");
   if (key.lines) add("Each line ends with a line feed");
   const std::string& otherwise = key.otherwise;
@@ -341,6 +347,7 @@ class KeysForPrograms {
     if (key.nonEmpty) json["nonEmpty"] = true;
     if (key.nonEmptyItems) json["nonEmptyItems"] = true;
     if (key.lines) json["lines"] = true;
+    if (key.nullableItems) json["nullableItems"] = true;
     if (key.secret) json["secret"] = true;
     for (const Loss& loss : key.losses) json["lost"].push_back(Json{{"what", nameOf(loss.how)}, {"why", loss.why}});
     if (inner.record == nullptr) return json;

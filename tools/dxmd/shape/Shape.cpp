@@ -24,6 +24,8 @@ class Reader final : public Shape {
   void member(const KeyFacts& key, Value& value) override {
     const JsonValue json = key.presence == KeyFacts::kRequired ? m_json.required(key.name) : m_json.optional(key.name);
     if (key.find(KeyFact::kByHand) != nullptr) return;
+    // Which other keys there are is not known without it.
+    if (!json && key.find(KeyFact::kChoice) != nullptr) m_json.finish();
     if (!json) return value.setAbsent();
     value.read(json);
     const KeyFact* const nonEmpty = key.find(KeyFact::kNonEmpty);
@@ -122,6 +124,9 @@ class Describer final : public Shape {
       case KeyFact::kNonEmptyItems:
         described.nonEmptyItems = true;
         break;
+      case KeyFact::kNullableItems:
+        described.nullableItems = true;
+        break;
       case KeyFact::kSecret:
         described.secret = true;
         break;
@@ -139,6 +144,7 @@ class Describer final : public Shape {
         break;
       case KeyFact::kNone:
       case KeyFact::kByHand:
+      case KeyFact::kChoice:
         break;
     }
   }

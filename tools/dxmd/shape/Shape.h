@@ -51,7 +51,19 @@ namespace dxmd_tool {
 
 /// A fact about a key, which stands behind its meaning.
 struct KeyFact {
-  enum What { kNone, kNonEmpty, kNonEmptyItems, kSecret, kAsKind, kElementNames, kLines, kByHand, kLoss };
+  enum What {
+    kNone,
+    kNonEmpty,
+    kNonEmptyItems,
+    kNullableItems,
+    kSecret,
+    kAsKind,
+    kElementNames,
+    kLines,
+    kByHand,
+    kChoice,
+    kLoss
+  };
 
   What what = kNone;
   const char* text = "";
@@ -66,6 +78,10 @@ constexpr KeyFact nonEmpty(const char* reason = "must not be empty") {
 /// An empty text in a list of texts is refused.
 constexpr KeyFact nonEmptyItems() {
   return {KeyFact::kNonEmptyItems};
+}
+/// A text in a list of texts may be null.
+constexpr KeyFact nullableItems() {
+  return {KeyFact::kNullableItems};
 }
 /// The value is a secret, though its name does not tell.
 constexpr KeyFact secret() {
@@ -191,7 +207,7 @@ class Shape {
   template <typename Enum>
   void choice(std::string_view name, Enum& value, const char* meaning, const EnumTable<Enum>& table,
               const std::function<void(Enum)>& keysOf) {
-    required(name, value, meaning, table);
+    required(name, value, meaning, table, KeyFact{KeyFact::kChoice});
     if (!gathers()) return keysOf(value);
     for (const Enum each : table.values()) {
       beginCase(name, table.text(each).toUtf8());

@@ -1,14 +1,23 @@
 #include <cstddef>
+#include <limits>
 #include <map>
+#include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include <dxmd/queryframework/QFResponseDomHelper.h>
+#include <trnidom/TRNIDOM_NodeList.h>
+
 #include <tools/dxmd/Kind.h>
-#include <tools/dxmd/Table.h>
+#include <tools/dxmd/Secrets.h>
+#include <tools/dxmd/ToolError.h>
 #include <tools/dxmd/json/Json.h>
+#include <tools/dxmd/json/JsonWriter.h>
 #include <tools/dxmd/kinds/queryframework/Envelope.h>
+#include <tools/dxmd/rows/RowStore.h>
+#include <tools/dxmd/rows/RowWriter.h>
 #include <tools/dxmd/xml/Elements.h>
 
 namespace dxmd_tool {
@@ -26,6 +35,10 @@ using Response = QFResponseDomHelper;
 using Columns = std::vector<std::map<Response::EColumnProp, I18NString>>;
 
 constexpr const char* kRows = "rows";
+constexpr const char* kFormat = "--format";
+constexpr const char* kLimit = "--limit";
+const I18NString kValue("value");
+const I18NString kV("v");
 
 struct ColumnKey {
   Response::EColumnProp property;
@@ -75,7 +88,13 @@ void shape(Shape& s, Reply& reply) {
   s.optional("queryFeedback", reply.queryFeedback, "What was reported, for each kind of feedback");
   s.optional("dataSources", reply.dataSources, "The connections used");
   s.optional("columnList", reply.columnList, "The columns");
-  s.byHand<std::vector<std::vector<I18NString>>>(kRows, "The rows, each a list of the values of its columns");
+  s.byHand<std::vector<std::vector<I18NString>>>(kRows, "The rows, each a list of the values of its columns",
+                                                 nullableItems());
+}
+
+bool isSecret(const Column& column) {
+  return isSecretName(column.properties.at(Response::kColumnPropName).toUtf8()) ||
+         isSecretName(column.properties.at(Response::kColumnPropSqlName).toUtf8());
 }
 
 // Writing
@@ -115,51 +134,134 @@ TRNIDOM_Element encodeReply(JsonObject& json, const KindOptions&) {
   const TRNIDOM_Element resultData = appendElement(response, "resultData");
   json.optional(kRows).each([&](const JsonValue& values) {
     const TRNIDOM_Element row = appendElement(resultData, "row");
-    values.each([&](const JsonValue& value) { appendElement(row, "value", "v", value.text()); });
+    std::size_t index = 0;
+    values.each([&](const JsonValue& value) {
+      const bool mayBeSecret = index < reply.columnList.size() && isSecret(reply.columnList[index]);
+      ++index;
+      if (value.isNull()) {
+        appendElement(row, kValue);
+        return;
+      }
+      const I18NString text = value.text();
+      if (mayBeSecret && text == kMask) value.fail(kMaskRefusal);
+      appendElement(row, kValue, kV, text);
+    });
   });
   return response;
 }
 
 // Reading
 
-template <typename Action>
-void forEachRow(const Response& response, const Action& action) {
-  std::vector<I18NString> values;
-  for (TRNIDOM_Element row = response.GetFirstResultSetRow(); !row.isNull(); row = response.GetNextResultSetRow(row)) {
-    values.clear();
-    response.GetResultSetRowValues(row, values);
-    action(values);
-  }
-}
+/// Reads a reply: first its rows, one by one, then all the rest.
+class ReplyReader {
+ public:
+  explicit ReplyReader(const KindOptions& options)
+      : m_format(options.value(kFormat).value_or("json")), m_rows(limitOf(options)) {}
 
-std::string rowTable(const Response& response, const Columns& columns) {
-  std::vector<std::string> header;
-  for (const auto& column : columns) header.push_back(column.at(Response::kColumnPropName).toUtf8());
-  Table table(std::move(header));
-  forEachRow(response, [&](const std::vector<I18NString>& values) {
-    std::vector<std::string> cells;
-    cells.reserve(values.size());
-    for (const I18NString& value : values) cells.push_back(value.toUtf8());
-    table.addRow(std::move(cells));
-  });
-  return table.text();
+  void addRow(const TRNIDOM_Element& row) {
+    m_hasRows = true;
+    if (m_rows.isFull()) return;
+    m_values.clear();
+    m_response.GetResultSetRowValues(row, m_values);
+    m_rows.begin();
+    // Few values are empty; of those the library does not tell which are NULL.
+    TRNIDOM_Element element;
+    std::size_t reached = 0;
+    for (std::size_t i = 0; i < m_values.size(); ++i) {
+      if (!m_values[i].empty()) {
+        m_rows.add(m_values[i].toUtf8());
+        continue;
+      }
+      if (element.isNull()) element = firstChild(row, kValue);
+      for (; reached < i; ++reached) element = nextSibling(element, kValue);
+      if (element.hasAttribute(kV))
+        m_rows.add("");
+      else
+        m_rows.addNull();
+    }
+  }
+
+  /// Reads the rest of the reply.
+  void finish(const Response& response) {
+    for (const auto kind : kQueryFeedbacks.values()) response.GetQueryFeedback(kind, m_reply.queryFeedback.texts[kind]);
+    response.GetResponseDataSources(m_reply.dataSources);
+    Columns columns;
+    response.GetColumnList(columns);
+    for (auto& properties : columns) m_reply.columnList.push_back({std::move(properties)});
+  }
+
+  bool hasRows() const { return m_hasRows; }
+
+  void print(const Printing& printing) {
+    std::vector<RowColumn> columns;
+    for (const Column& column : m_reply.columnList)
+      columns.push_back({column.properties.at(Response::kColumnPropName).toUtf8(), isSecret(column)});
+    std::unique_ptr<RowWriter> writer = writerFor(columns, printing);
+    if (!printing.showSecrets) writer = maskingWriter(columns, std::move(writer));
+    m_rows.forEach([&](const Row& row) { writer->write(row); });
+    writer->finish();
+  }
+
+ private:
+  static std::size_t limitOf(const KindOptions& options) {
+    const std::optional<std::string> limit = options.value(kLimit);
+    constexpr std::size_t kMostDigits = 18;
+    if (!limit) return std::numeric_limits<std::size_t>::max();
+    if (limit->empty() || limit->size() > kMostDigits || limit->find_first_not_of("0123456789") != std::string::npos)
+      throw ToolError(kStatusUsage, std::string(kLimit) + ": " + inQuotes(*limit) + " is no number of rows");
+    return static_cast<std::size_t>(std::stoull(*limit));
+  }
+
+  std::unique_ptr<RowWriter> writerFor(const std::vector<RowColumn>& columns, const Printing& printing) const {
+    if (m_format == "csv") return csvWriter(columns, printing.out);
+    if (m_format == "table") return tableWriter(columns, printing.out);
+    printing.out.isJson();
+    if (m_format == "ndjson") return ndjsonWriter(columns, printing.out);
+    Json head = Json::object();
+    writeRecord(head, m_reply);
+    if (!printing.showSecrets) {
+      const Description description = describe<Reply>();
+      maskSecrets(head, &description.whole());
+    }
+    return jsonWriter(toText(head, printing.indent), kRows, printing.indent, printing.out);
+  }
+
+  std::string m_format;
+  Response m_response;  ///< reads rows, which takes no document
+  std::vector<I18NString> m_values;
+  bool m_hasRows = false;
+  RowStore m_rows;
+  Reply m_reply;
+};
+
+Decoded decodedBy(const std::shared_ptr<ReplyReader>& reader, TRNIDOM_Element& root) {
+  Response response;
+  response.Take(root);
+  reader->finish(response);
+  return Decoded::Print([reader](const Printing& printing) { reader->print(printing); });
 }
 
 Decoded decodeReply(TRNIDOM_Element& root, const KindOptions& options) {
+  const auto reader = std::make_shared<ReplyReader>(options);
   Response response;
   response.Take(root);
-  Columns columns;
-  response.GetColumnList(columns);
-  if (options.value("--format") == "table") return rowTable(response, columns);
+  for (TRNIDOM_Element row = response.GetFirstResultSetRow(); !row.isNull(); row = response.GetNextResultSetRow(row))
+    reader->addRow(row);
+  return decodedBy(reader, root);
+}
 
-  Reply reply;
-  for (const auto kind : kQueryFeedbacks.values()) response.GetQueryFeedback(kind, reply.queryFeedback.texts[kind]);
-  response.GetResponseDataSources(reply.dataSources);
-  for (auto& properties : columns) reply.columnList.push_back({std::move(properties)});
-  Decoded decoded = decodedRecord(reply);
-  Json& rows = (*decoded.json())[kRows] = Json::array();
-  forEachRow(response, [&](const std::vector<I18NString>& values) { rows.push_back(values); });
-  return decoded;
+PieceDecoder decodeLargeReply(const KindOptions& options) {
+  const auto reader = std::make_shared<ReplyReader>(options);
+  PieceDecoder pieces;
+  pieces.element = "row";
+  pieces.visit = [reader](const TRNIDOM_Element& row) { reader->addRow(row); };
+  pieces.fits = [reader](const TRNIDOM_Element& root) {
+    if (!reader->hasRows()) return true;
+    const TRNIDOM_NodeList data = root.getElementsByTagName("resultData");
+    return data.getLength() == 1 && firstChild(data.item(0)).isNull();
+  };
+  pieces.finish = [reader](TRNIDOM_Element& root) { return decodedBy(reader, root); };
+  return pieces;
 }
 
 }  // namespace
@@ -170,14 +272,20 @@ Kind kinds::response() {
   kind.encode = encodeReply;
   kind.decode = decodeReply;
   kind.summary = "Reply to an execute command: feedback, data sources, columns and rows";
-  kind.notes = R"(With --format table the rows alone print, under the names of the columns.
+  kind.notes = R"(With --format csv, ndjson or table the rows alone print. A value of a row that is NULL, which has
+no attribute "v", is null in JSON and an empty field in CSV and a table; an empty text is "" in all.
 The parts are found at any depth. Between the columns no white space may stand.)";
   kind.helper = "QFResponseDomHelper";
   kind.writes = Does::kTool;
   kind.roots = {"response"};
   kind.orHolding = {"queryFeedbackResult", "columnList", "resultData"};
-  kind.options = {
-      {KindOption::kDecode, "--format", "json|table", "Print JSON, or the rows as a table", {"json", "table"}}};
+  kind.decodePieces = decodeLargeReply;
+  kind.options = {{KindOption::kDecode,
+                   kFormat,
+                   "json|ndjson|csv|table",
+                   "Print all as JSON, or the rows: a line of JSON each, as CSV, or as a table",
+                   {"json", "ndjson", "csv", "table"}},
+                  {KindOption::kDecode, kLimit, "N", "Print no more rows than these"}};
   kind.example = R"({
   "queryFeedback": {
     "nativeCommandText": "select NAME, REVENUE from SALES",

@@ -26,7 +26,7 @@ TEST(ResponseKind, PartsThatAreThere) {
     {}
   ],
   "rows": [
-    ["1", ""],
+    ["1", null],
     []
   ]
 }
@@ -44,7 +44,7 @@ TEST(ResponseKind, RowsAsATable) {
   EXPECT_EQ(
       "Region  Revenue\n"
       "------  -------  -\n"
-      "North   1200\n"
+      "North      1200\n"
       "東京             x\n",
       run({"decode", "response", "--format", "table"},
           R"(<response><columnList><c name="Region"/><c name="Revenue"/></columnList><resultData>)"
@@ -81,4 +81,64 @@ TEST(ResponseKind, RowsThatAreNotTextsAreRefusedWithTheirPlace) {
                 run({"encode", "response"}, R"({"rows": [[], [1]]})"));
   expectFailure(kStatusUnfit, "standard input: $.rows[0]: expected a list, found an object",
                 run({"encode", "response"}, R"({"rows": [{}]})"));
+}
+
+namespace {
+
+const char* const kReply =
+    R"(<response><columnList><c name="Region, all"/><c name="Password"/><c name="Region, all"/></columnList><resultData>)"
+    R"(<row><value v="a &quot;b&quot;"/><value v="hush"/><value/></row><row><value v=""/><value/><value v="2"/><value v="x"/></row>)"
+    R"(</resultData></response>)";
+
+std::string rowsAs(const char* format, const std::string& xml = kReply) {
+  return run({"decode", "response", "--format", format}, xml).out;
+}
+
+}  // namespace
+
+TEST(ResponseKind, RowsInEachFormatTellNullFromEmpty) {
+  EXPECT_EQ("\"Region, all\",Password,\"Region, all\"\r\n\"a \"\"b\"\"\",***,\r\n\"\",,2,x\r\n", rowsAs("csv"));
+  EXPECT_EQ(R"({"Region, all":"a \"b\"","Password":"***","column3":null})"
+            "\n"
+            R"({"Region, all":"","Password":null,"column3":"2","column4":"x"})"
+            "\n",
+            rowsAs("ndjson"));
+  EXPECT_EQ(
+      "Region, all  Password  Region, all\n"
+      "-----------  --------  -----------  -\n"
+      "a \"b\"        ***\n"
+      "\"\"                               2  x\n",
+      rowsAs("table"));
+}
+
+TEST(ResponseKind, LimitBoundsTheRows) {
+  EXPECT_EQ("\"Region, all\",Password,\"Region, all\"\r\n\"a \"\"b\"\"\",***,\r\n",
+            run({"decode", "response", "--format", "csv", "--limit", "1"}, kReply).out);
+  EXPECT_EQ(2, run({"decode", "response", "--limit", "x"}, kReply).status);
+}
+
+TEST(ResponseKind, LargeReplyPrintsAsASmallOneDoes) {
+  // Beyond the size up to which documents are read whole, with its columns behind its rows.
+  std::string rows;
+  std::string csv = "A,password\r\n";
+  for (int i = 0; i < 120000; ++i) {
+    const std::string number = std::to_string(i);
+    rows += "<row><value v='" + number + "'/><value v='hush'/></row>\n";
+    csv += number + ",***\r\n";
+  }
+  const std::string columns = "<columnList><column name='A'/><column name='password'/></columnList>";
+  const std::string large = "<response><resultData>" + rows + "</resultData>" + columns + "</response>";
+  ASSERT_LT(4u << 20, large.size());
+  EXPECT_EQ(csv, rowsAs("csv", large));
+  const std::string json = rowsAs("json", large);
+  EXPECT_NE(std::string::npos, json.find("    [\"119999\", \"***\"]\n  ]\n}\n"));
+  // Nothing prints of what is not well-formed.
+  const ToolRun cut = run({"decode", "response", "--format", "csv"}, large.substr(0, large.size() - 1));
+  EXPECT_EQ(4, cut.status);
+  EXPECT_EQ("", cut.out);
+  expectFailure(
+      dxmd_tool::kStatusUnfit,
+      "standard input: a document of this size is read one \"row\" at a time, and in this one they do not all "
+      "stand in one place",
+      run({"decode", "response"}, "<response><resultData>" + rows + "</resultData><resultData/></response>"));
 }
