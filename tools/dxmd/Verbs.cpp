@@ -48,11 +48,13 @@ Source inputSource(const Settings& settings, std::istream& in) {
   };
 }
 
-/// Whether an option was given that stands for the input, with no file named beside it.
-bool inputIsReplaced(const Kind& kind, const Settings& settings) {
-  return settings.file == "-" && std::any_of(kind.options.begin(), kind.options.end(), [&](const KindOption& option) {
-           return option.replacesInput && settings.kindOptions.value(option.name);
-         });
+/// The value of an option that stands for the input, if one was given and no file is named beside it.
+std::optional<std::string> replacedInput(const Kind& kind, const Settings& settings) {
+  if (settings.file != "-") return std::nullopt;
+  for (const KindOption& option : kind.options)
+    if (option.replacesInput)
+      if (auto value = settings.kindOptions.value(option.name)) return value;
+  return std::nullopt;
 }
 
 /// Runs what may refuse the input, and says which one where the refusal does not.
@@ -209,10 +211,10 @@ Json forPrograms(const Kind& kind) {
 }  // namespace
 
 void encode(const Kind& kind, const Settings& settings, std::istream& in, Output& out) {
-  const std::string name = inputName(settings);
+  const std::optional<std::string> replaced = replacedInput(kind, settings);
+  const std::string name = replaced.value_or(inputName(settings));
   refusalsNamed(name, [&] {
-    const Json json =
-        inputIsReplaced(kind, settings) ? Json::object() : parseJson(readSource(inputSource(settings, in)), name);
+    const Json json = replaced ? Json::object() : parseJson(readSource(inputSource(settings, in)), name);
     TRNIDOM_Element element;
     requireXmlCharacters(json, name);
     readObject(json, name, [&](JsonObject& object) {

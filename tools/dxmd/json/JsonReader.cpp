@@ -207,16 +207,8 @@ void JsonObject::fail(const std::string& reason) const {
 namespace {
 
 void requireXmlCharacters(std::string_view text, const JsonPlace& place) {
-  for (std::size_t at = 0; at < text.size();) {
-    const char32_t character = nextCharacter(text, at);
-    const bool isControlOfXml = character == '\t' || character == '\n' || character == '\r';
-    if ((character >= 0x20 || isControlOfXml) && character != 0xFFFE && character != 0xFFFF) continue;
-    constexpr const char* kHex = "0123456789ABCDEF";
-    std::string number;
-    for (const int shift : {12, 8, 4, 0}) number += kHex[character >> shift & 0xF];
-    throw JsonError(JsonError::kUnfit,
-                    std::string(place.source()) + ": " + place.path() + ": U+" + number + " is no character of XML");
-  }
+  if (const std::string reason = refusedByXml(text); !reason.empty())
+    throw JsonError(JsonError::kUnfit, std::string(place.source()) + ": " + place.path() + ": " + reason);
 }
 
 void requireXmlCharacters(const Json& json, const JsonPlace& place) {

@@ -234,16 +234,14 @@ class Finder {
   void login(std::size_t sign) {
     if (sign == 0 || m_text[sign - 1] == '[' || m_text[sign - 1] == '/') return;
     // The password may have such a sign too.
-    std::size_t start = sign;
-    while (start > m_done && sign - start < kLongestLogin && !isSpace(m_text[start - 1]) &&
-           "\"'<>;,=({[&?"sv.find(m_text[start - 1]) == m_text.npos)
-      --start;
     std::size_t last = sign;
     for (std::size_t next = sign + 1; next < m_text.size() && next - sign < kLongestLogin && !isSpace(m_text[next]) &&
                                       "\"'<>;,/?"sv.find(m_text[next]) == m_text.npos;
          ++next)
       if (m_text[next] == '@') last = next;
-    const std::string_view token = m_text.substr(start, sign - start);
+    m_at = last + 1;
+    const std::size_t start = startOfLogin(last);
+    const std::string_view token = m_text.substr(start, last - start);
     const std::size_t scheme = token.find("://");
     const std::size_t user = scheme == token.npos ? (token.substr(0, 2) == "//" ? 2 : 0) : scheme + 3;
     const std::size_t parting = token.find_first_of(":/", user);
@@ -252,6 +250,18 @@ class Finder {
     if (user > 0 && token[parting] == '/') return;  // a path behind a host
     if (user > 0 && isPortAndPath(token.substr(parting + 1))) return;
     set(start + parting + 1, last);
+  }
+
+  /// Where the run of characters that ends at the sign begins. What was looked at for an earlier sign is not again.
+  std::size_t startOfLogin(std::size_t sign) {
+    const std::size_t seen = std::max(m_done, m_loginSeen);
+    std::size_t start = sign;
+    while (start > seen && !isSpace(m_text[start - 1]) && "\"'<>;,=({[&?"sv.find(m_text[start - 1]) == m_text.npos)
+      --start;
+    if (start == m_loginSeen && m_loginStart >= m_done) start = m_loginStart;
+    m_loginStart = start;
+    m_loginSeen = sign;
+    return std::max(start, sign > kLongestLogin ? sign - kLongestLogin : 0);
   }
 
   static bool isPortAndPath(std::string_view text) {
@@ -270,6 +280,8 @@ class Finder {
   std::size_t m_done = 0;  ///< before it all is found
   std::size_t m_begin = 0;
   std::size_t m_end = 0;
+  std::size_t m_loginStart = 0;
+  std::size_t m_loginSeen = 0;  ///< up to where `startOfLogin` has looked
 };
 
 }  // namespace

@@ -9,7 +9,7 @@
 namespace dxmd_tool {
 
 /// A JSON Schema (2020-12) that takes what `encode` takes, as far as a schema can say it: whether a text of XML is
-/// well-formed, which characters XML has, and what the library refuses it cannot say.
+/// well-formed, which characters XML has, that `***` is no secret, and what the library refuses it cannot say.
 Json schemaOf(const Description& description, const std::string& title, const std::string& summary);
 
 /// The keys for programs, as `dxmd kinds --json` prints them: an object with "keys" and "rules". Inside a record that

@@ -99,6 +99,19 @@ std::string escapedLines(std::string_view text) {
   return escapedBut(text, "\n\t");
 }
 
+std::string refusedByXml(std::string_view text) {
+  for (std::size_t at = 0; at < text.size();) {
+    const char32_t character = nextCharacter(text, at);
+    const bool isAllowed = character >= 0x20 ? character != 0xFFFE && character != 0xFFFF
+                                             : character == '\t' || character == '\n' || character == '\r';
+    if (isAllowed) continue;
+    std::string number;
+    appendUnicode(number, character);
+    return "U+" + number.substr(2) + " is no character of XML";
+  }
+  return "";
+}
+
 void appendJsonString(std::string& json, std::string_view text) {
   json += '"';
   for (std::size_t at = 0; at < text.size();) {

@@ -22,6 +22,9 @@ std::string escaped(std::string_view text);
 /// The same for a text of several lines: line feeds and tabs stay, and carriage returns before line feeds.
 std::string escapedLines(std::string_view text);
 
+/// What is wrong with the first character that XML does not have, as in "U+0001 is no character of XML"; else empty.
+std::string refusedByXml(std::string_view text);
+
 /// Writes a string of JSON, in quotes. Controls are escaped there too; malformed bytes become U+FFFD.
 void appendJsonString(std::string& json, std::string_view text);
 
