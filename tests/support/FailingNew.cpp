@@ -29,7 +29,7 @@ bool failsNow() noexcept {
 }
 
 void* allocate(std::size_t size) noexcept {
-  if (failsNow() || static_cast<std::ptrdiff_t>(size) > mostBytes - bytes) return nullptr;
+  if (failsNow() || bytes > mostBytes - static_cast<std::ptrdiff_t>(size)) return nullptr;
   void* const block = std::malloc(size == 0 ? 1 : size);
   if (block != nullptr) ++blocks;
   bytes += static_cast<std::ptrdiff_t>(malloc_usable_size(block));
