@@ -53,7 +53,7 @@ Node* TRNIDOM_NodeList::at(std::size_t index) const {
   const bool lengthIsKnown = m_lengthVersion == structure;
   if (lengthIsKnown && index >= m_length) return nullptr;
   if (index < m_index && index < m_index - index) start();
-  for (; index < m_index; --m_index) m_node = previous(m_node);
+  for (; m_node != nullptr && index < m_index; --m_index) m_node = previous(m_node);
   while (m_node != nullptr && m_index < index) {
     Node* const following = next(m_node);
     if (following == nullptr) break;
@@ -93,7 +93,7 @@ Node* TRNIDOM_NodeList::previous(Node* node) const noexcept {
   if (m_kind == kChildren) return static_cast<ChildNode*>(node)->previous;
   const Node* const root = Access::node(m_root);
   do node = previousBelow(root, static_cast<ChildNode*>(node));
-  while (!isWanted(node));
+  while (node != nullptr && !isWanted(node));
   return node;
 }
 

@@ -110,7 +110,7 @@ template <typename Made>
 Made* Document::makeWithValue(Node::Type type, Text value) {
   if (value.size() > std::numeric_limits<std::uint32_t>::max()) throw std::bad_alloc();
   ValueBlock* const block = value.size() > kLongestInNode ? makeBlock(value, value.size()) : nullptr;
-  std::size_t room = sizeof(block);
+  std::size_t room = kPointerRoom;
   if (block == nullptr) room = std::max(room, value.size() * sizeof(char16_t));
   room = (room + Arena::kAlignment - 1) / Arena::kAlignment * Arena::kAlignment;
 
@@ -517,10 +517,10 @@ CharacterData* Document::mirrorOf(const Attribute* attribute) const {
   const std::lock_guard<std::mutex> lock(m_onDemand);
   const auto found = m_mirrors.find(attribute);
   if (found != m_mirrors.end()) return found->second;
-  auto* text = new (m_arena.allocate(sizeof(CharacterData) + sizeof(ValueBlock*))) CharacterData{};
+  auto* text = new (m_arena.allocate(sizeof(CharacterData) + kPointerRoom)) CharacterData{};
   text->type = Node::kText;
   text->flags = Node::kMirrors;
-  text->room = sizeof(ValueBlock*) / sizeof(char16_t);
+  text->room = kPointerRoom / sizeof(char16_t);
   text->parent = const_cast<Attribute*>(attribute);
   text->previous = text;
   m_mirrors.emplace(attribute, text);

@@ -113,6 +113,9 @@ inline const ChildNode* asChild(const Node* node) noexcept {
   return asChild(const_cast<Node*>(node));
 }
 
+/// The least room behind a node that has a value, in bytes.
+constexpr std::size_t kPointerRoom = sizeof(void*);
+
 /// The room behind a node that has a value.
 inline void* roomOf(Node* node) noexcept {
   switch (node->type) {
