@@ -81,7 +81,7 @@ class CommandLine {
     m_kinds->add_flag("--json", m_json, "Print JSON, for programs: all that is known of the kind, or of all kinds");
     setUsage(*m_kinds, "kinds [OPTIONS] [KIND]");
     addOutput(*m_kinds);
-    m_example = m_app.add_subcommand("example", "Print complete JSON to encode, or XML for a kind that is only read");
+    m_example = m_app.add_subcommand("example", "Print complete JSON to encode");
     m_example->add_option("KIND", m_kindName, "The kind of message")->required()->option_text(" ");
     m_example->footer("");
     setUsage(*m_example, "example [OPTIONS] KIND");
@@ -148,10 +148,9 @@ class CommandLine {
     setUsage(*app, std::string(name) + " [OPTIONS] KIND [FILE]");
     addInputOutput(*app, verb);
     for (const Kind& kind : allKinds()) {
-      if (verb == KindOption::kEncode ? !kind.encode : !kind.decode) continue;
       CLI::App* command = app->add_subcommand(kind.name, kind.summary)->ignore_case();
       command->group("Kinds");
-      command->footer((kind.describe ? "Keys of the JSON: dxmd kinds " + kind.name + "\n" : "") + notesOf(kind));
+      command->footer("Keys of the JSON: dxmd kinds " + kind.name + "\n" + notesOf(kind));
       setUsage(*command, name + (" " + kind.name) + " [OPTIONS] [FILE]");
       command->add_option("FILE", m_settings.file, verb == KindOption::kEncode ? "The JSON to read" : "The XML to read")
           ->option_text(" ");
@@ -238,11 +237,7 @@ class CommandLine {
     const auto kinds = verb.get_subcommands();
     if (!extras.empty() && (!kinds.empty() || isOption(extras[0]))) failUnexpected(extras[0]);
     if (extras.empty() && kinds.empty()) fail("a kind of message is needed");
-    const Kind& kind = findKind(kinds.empty() ? extras[0] : kinds[0]->get_name());
-    if (kinds.empty())
-      throw ToolError(kStatusUsage, "the kind " + kind.name + " is only " +
-                                        (kind.encode ? "written: dxmd encode " : "read: dxmd decode ") + kind.name);
-    return kind;
+    return findKind(kinds.empty() ? extras[0] : kinds[0]->get_name());
   }
 
   static bool isOption(const std::string& argument) { return argument.compare(0, 1, "-") == 0; }

@@ -119,19 +119,14 @@ std::string xmlLine(const TRNIDOM_Node& node, unsigned indent) {
   return xml;
 }
 
-/// Hands what describes the kind's JSON to the action; null when nothing does.
-template <typename Action>
-auto withDescription(const Kind& kind, const Action& action) {
-  const Description description = kind.describe ? kind.describe() : Description();
-  return action(kind.describe ? &description.whole() : nullptr);
-}
-
 void printDecoded(const Decoded& decoded, const Kind& kind, const Settings& settings, Output& out) {
   if (settings.showSecrets) out.holdsSecrets();
   if (Json* const json = decoded.json()) {
     checkJsonDepth(*json);
-    if (!settings.showSecrets)
-      withDescription(kind, [&](const DescribedRecord* record) { maskSecrets(*json, record); });
+    if (!settings.showSecrets) {
+      const Description description = kind.describe();
+      maskSecrets(*json, &description.whole());
+    }
     out.isJson();
     out.write(toText(*json, settings.indent.value_or(kJsonIndent)) + "\n");
   } else if (!decoded.element().isNull()) {
@@ -186,14 +181,10 @@ Json forPrograms(const Kind& kind) {
   Json json = {{"kind", kind.name}, {"family", kind.family}, {"summary", kind.summary}, {"roots", kind.roots}};
   if (!kind.wrapped.empty()) json["wrapped"] = kind.wrapped;
   if (!kind.orHolding.empty()) json["orHolding"] = kind.orHolding;
-  json["encodes"] = static_cast<bool>(kind.encode);
-  json["decodes"] = static_cast<bool>(kind.decode);
-  if (!kind.helper.empty()) {
-    json["class"] = kind.helper;
-    json["header"] = headerOf(kind);
-    json["libraryWrites"] = kind.writes == Does::kLibrary;
-    json["libraryReads"] = kind.reads == Does::kLibrary;
-  }
+  json["class"] = kind.helper;
+  json["header"] = headerOf(kind);
+  json["libraryWrites"] = kind.writes == Does::kLibrary;
+  json["libraryReads"] = kind.reads == Does::kLibrary;
   if (!kind.reply.empty()) json["reply"] = kind.reply;
   if (!kind.notes.empty()) json["notes"] = kind.notes;
   for (const KindOption& option : kind.options) {
@@ -204,7 +195,7 @@ Json forPrograms(const Kind& kind) {
     if (!option.choices.empty()) described["choices"] = option.choices;
     json["options"].push_back(std::move(described));
   }
-  if (kind.describe) json.update(keysOf(kind.describe()));
+  json.update(keysOf(kind.describe()));
   return json;
 }
 
@@ -218,10 +209,9 @@ void encode(const Kind& kind, const Settings& settings, std::istream& in, Output
     TRNIDOM_Element element;
     requireXmlCharacters(json, name);
     readObject(json, name, [&](JsonObject& object) {
-      withDescription(kind, [&](const DescribedRecord* record) {
-        refuseMasks(json, record, name);
-        if (holdsSecrets(json, record)) out.holdsSecrets();
-      });
+      const Description description = kind.describe();
+      refuseMasks(json, &description.whole(), name);
+      if (holdsSecrets(json, &description.whole())) out.holdsSecrets();
       element = kind.encode(object, settings.kindOptions);
     });
     if (holdsSecrets(element)) out.holdsSecrets();
@@ -260,10 +250,8 @@ std::string listKinds() {
   std::size_t width = 0;
   for (const Kind& kind : allKinds()) width = std::max(width, kind.name.size());
   std::string lines;
-  for (const Kind& kind : allKinds()) {
-    const char* verbs = !kind.decode ? "encode        " : !kind.encode ? "decode        " : "encode, decode";
-    lines += kind.name + std::string(width - kind.name.size(), ' ') + "  " + verbs + "  " + kind.summary + "\n";
-  }
+  for (const Kind& kind : allKinds())
+    lines += kind.name + std::string(width - kind.name.size(), ' ') + "  " + kind.summary + "\n";
   return lines;
 }
 
@@ -273,18 +261,18 @@ std::string notesOf(const Kind& kind) {
   notes += "Root element: " + joined(kind.roots);
   if (!kind.wrapped.empty()) notes += ", around " + kind.wrapped;
   if (!kind.orHolding.empty()) notes += ", or any that holds " + joined(kind.orHolding);
-  if (!kind.helper.empty()) notes += "\nIn C++: " + classOf(kind);
+  notes += "\nIn C++: " + classOf(kind);
   if (!kind.reply.empty()) notes += "\nReply: dxmd kinds " + kind.reply;
   return notes + "\nTo start from: dxmd example " + kind.name;
 }
 
 std::string describe(const Kind& kind) {
   std::string text = kind.name + ": " + kind.summary + "\n\n";
-  if (kind.encode) text += "  dxmd encode " + kind.name + " [FILE]\n";
-  if (kind.decode) text += "  dxmd decode " + kind.name + " [FILE]\n";
+  text += "  dxmd encode " + kind.name + " [FILE]\n";
+  text += "  dxmd decode " + kind.name + " [FILE]\n";
   for (const KindOption& option : kind.options)
     text += std::string("    ") + option.name + " " + option.argument + "  " + option.help + "\n";
-  if (kind.describe) text += "\nKeys of the JSON:\n" + keysAsText(kind.describe());
+  text += "\nKeys of the JSON:\n" + keysAsText(kind.describe());
   return text + "\n" + notesOf(kind) + "\n";
 }
 
@@ -299,7 +287,6 @@ std::string describeAllForPrograms() {
 }
 
 std::string schema(const Kind& kind) {
-  if (!kind.describe) throw ToolError(kStatusUsage, "the kind " + kind.name + " has no schema");
   return toText(schemaOf(kind.describe(), kind.name, kind.summary), kJsonIndent) + "\n";
 }
 

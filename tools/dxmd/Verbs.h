@@ -43,7 +43,6 @@ std::string describeForPrograms(const Kind& kind);
 std::string describeAllForPrograms();
 
 /// The JSON Schema of what `encode` takes.
-/// @throws ToolError when the kind has none.
 std::string schema(const Kind& kind);
 
 /// The notes and element names of a kind, which its help ends with.

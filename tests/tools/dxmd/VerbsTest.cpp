@@ -23,10 +23,15 @@ Kind noteKind() {
   kind.name = "note";
   kind.roots = {"note"};
   kind.options = {{KindOption::kEncode, "--text", "TEXT", "The text of the note", {}, true}};
+  kind.describe = [] {
+    Description description;
+    description.records.emplace_back();
+    return description;
+  };
   kind.encode = [](JsonObject& json, const KindOptions& options) {
     TRNIDOM_Element note = newDocument().createElement("note");
-    const I18NString text = json.optional("text").text();
-    note.setAttribute("text", options.value("--text").value_or(text.toUtf8()).c_str());
+    const std::optional<std::string> text = options.value("--text");
+    note.setAttribute("text", text ? text->c_str() : json.required("text").text());
     return note;
   };
   return kind;

@@ -28,10 +28,9 @@ NOT_SAID = [
 def validators(dxmd):
     kinds = json.loads(subprocess.check_output([dxmd, "kinds", "--json"]))
     for kind in kinds:
-        if "keys" in kind:
-            schema = json.loads(subprocess.check_output([dxmd, "schema", kind["kind"]]))
-            jsonschema.Draft202012Validator.check_schema(schema)
-            yield kind["kind"], jsonschema.Draft202012Validator(schema)
+        schema = json.loads(subprocess.check_output([dxmd, "schema", kind["kind"]]))
+        jsonschema.Draft202012Validator.check_schema(schema)
+        yield kind["kind"], jsonschema.Draft202012Validator(schema)
 
 
 def main(dxmd, folder):
@@ -41,8 +40,6 @@ def main(dxmd, folder):
     lines = {line for file in pathlib.Path(folder).iterdir() for line in file.read_bytes().split(b"\n")}
     for line in sorted(lines - {b""}):
         case = json.loads(line)
-        if case["kind"] not in schemas:
-            continue
         tried[case["kind"]] += 1
         takes = schemas[case["kind"]].is_valid(case["json"])
         if takes and case["refusal"] and not any(reason in case["refusal"] for reason in NOT_SAID):
