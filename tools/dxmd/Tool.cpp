@@ -10,6 +10,7 @@
 #include <ostream>
 #include <system_error>
 
+#include <dxmd/core/DXNamespaces.h>
 #include <CLI/CLI.hpp>
 
 #include <tools/dxmd/Files.h>
@@ -169,6 +170,10 @@ class CommandLine {
                      "Spaces per level, for people to read: several readers take no white space between elements")
           ->option_text("N")
           ->check(CLI::Range(0U, 16U));
+      app.add_option("--query-service-namespace", m_queryServiceNamespace,
+                     "The namespace that commands declare, where the deployment has its own")
+          ->option_text("URI")
+          ->check([](const std::string& uri) { return uri.empty() ? "must not be empty" : ""; });
     } else {
       app.add_option("--indent", m_settings.indent, "Spaces per level of the JSON, by default 2; 0 writes one line")
           ->option_text("N")
@@ -207,6 +212,7 @@ class CommandLine {
   void printResult(std::istream& in, Output& out) {
     checkVerb();
     m_settings.kindOptions = KindOptions(m_kindValues);
+    if (!m_queryServiceNamespace.empty()) DXNamespaces::SetQueryService(m_queryServiceNamespace.c_str());
     if (m_encode->parsed()) return encode(kindOf(*m_encode), m_settings, in, out);
     if (m_decode->parsed()) return decode(kindOf(*m_decode), m_settings, in, out);
     out.write(description());
@@ -263,6 +269,7 @@ class CommandLine {
   CLI::App* m_example;
   CLI::App* m_schema;
   Settings m_settings;
+  std::string m_queryServiceNamespace;
   std::string m_kindName;
   bool m_json = false;
   std::map<std::string, std::string> m_kindValues;

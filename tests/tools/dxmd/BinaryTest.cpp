@@ -25,6 +25,14 @@ TEST(Binary, ExampleGoesThroughAPipe) {
   EXPECT_EQ(0u, bytesOf(folder.path("out")).find("<command "));
 }
 
+TEST(Binary, CommandDeclaresTheNamespaceGiven) {
+  const TempFolder folder;
+  EXPECT_EQ(0, shell("dxmd example closeConnections | dxmd encode --query-service-namespace urn:other closeConnections "
+                     "--output " +
+                     folder.path("out")));
+  EXPECT_EQ(0u, bytesOf(folder.path("out")).find("<command xmlns=\"urn:other\" "));
+}
+
 TEST(Binary, StandardInputThatCannotBeReadIsStatus3) {
   const TempFolder folder;
   EXPECT_EQ(3, shell("dxmd decode response < " + folder.path(".") + " 2> " + folder.path("err")));

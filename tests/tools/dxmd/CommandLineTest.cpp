@@ -38,6 +38,9 @@ TEST(CommandLine, WrongUsageIsStatus2) {
   EXPECT_EQ(2, run({"decode", "response", "--format", "xls"}).status);
   EXPECT_EQ(2, run({"decode", "response", "--limit", "-1"}, "<response/>").status);
   EXPECT_EQ(2, run({"decode", "response", "--output"}).status);
+  expectFailure(kStatusUsage, "--query-service-namespace: must not be empty (see dxmd encode execute --help)",
+                run({"encode", "execute", "--query-service-namespace", ""}, "{}"));
+  EXPECT_EQ(2, run({"encode", "execute", "--query-service-namespace="}, "{}").status);
   expectFailure(kStatusUsage, "a verb is needed: encode, decode, kinds, example or schema (see dxmd --help)", run({}));
   expectFailure(kStatusUsage,
                 "\"foo\" is no verb; the verbs are encode, decode, kinds, example and schema (see dxmd --help)",
