@@ -154,10 +154,19 @@ TEST(Shape, HelpSaysAllThatIsKnown) {
       "  isTree    boolean. Whether it is a tree. By default false.\n"
       "            Exactly one of \"name\", \"leaf\" may be there.\n",
       keysAsText(describe<Plant>()));
+}
+
+TEST(Shape, KeyThatSeveralChoicesHaveIsSaidOnce) {
   EXPECT_EQ(
       "  colour  required text. Its colour. One of \"red\", \"blue\".\n"
       "  coats   required integer. How many. Goes with \"red\", \"blue\". From 0 to 255.\n",
       keysAsText(describe<Paint>()));
+  const Json keys = keysOf(describe<Paint>())["keys"];
+  ASSERT_EQ(2u, keys.size());
+  EXPECT_EQ(Json::parse(R"(["red", "blue"])"), keys[1]["onlyFor"]);
+  const Json objects = schemaOf(describe<Paint>(), "paint", "Paint")["oneOf"];
+  ASSERT_EQ(1u, objects.size());
+  EXPECT_EQ(Json::parse(R"({"enum": ["red", "blue"]})"), objects[0]["properties"]["colour"]);
 }
 
 TEST(Shape, SchemaSaysWhatIsRefused) {

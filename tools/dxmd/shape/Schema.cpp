@@ -1,6 +1,7 @@
 #include "Schema.h"
 
 #include <algorithm>
+#include <functional>
 #include <map>
 #include <sstream>
 #include <utility>
@@ -39,15 +40,28 @@ class SchemaWriter {
 
   Json object(const DescribedRecord& record) {
     if (record.choice.empty()) return objectFor(record, "");
+    // Choices that go with the same keys share an object.
+    std::vector<std::pair<Json, std::vector<std::string>>> objects;
+    for (const std::string& text : record.find(record.choice)->type.choices) {
+      Json object = objectFor(record, text);
+      const auto same = std::find_if(objects.begin(), objects.end(), [&](const auto& o) { return o.first == object; });
+      if (same != objects.end())
+        same->second.push_back(text);
+      else
+        objects.push_back({std::move(object), {text}});
+    }
     Json json = Json::object();
-    for (const std::string& text : record.find(record.choice)->type.choices)
-      json["oneOf"].push_back(objectFor(record, text));
+    for (auto& [object, texts] : objects) {
+      object["properties"][record.choice] = texts.size() == 1 ? Json{{"const", texts[0]}} : Json{{"enum", texts}};
+      json["oneOf"].push_back(std::move(object));
+    }
     return json;
   }
 
   Json takeDefinitions() { return std::move(m_definitions); }
 
  private:
+  /// The object for a text of the record's choice, whose own key is left null.
   Json objectFor(const DescribedRecord& record, const std::string& text) {
     Json json = Json::object();
     json["type"] = "object";
@@ -55,7 +69,7 @@ class SchemaWriter {
     Json required = Json::array();
     for (const DescribedKey& key : record.keys) {
       if (!key.onlyFor.empty() && key.onlyFor != text) continue;
-      json["properties"][key.name] = key.name == record.choice ? Json{{"const", text}} : member(key);
+      json["properties"][key.name] = key.name == record.choice ? Json() : member(key);
       if (key.required) required.push_back(key.name);
     }
     if (!required.empty()) json["required"] = std::move(required);
@@ -238,6 +252,29 @@ std::string factsOf(const DescribedKey& key) {
   return text;
 }
 
+/// `required text. Its colour.`
+std::string startOf(const DescribedKey& key) {
+  return (key.required ? "required " : "") + inWords(key.type) + ". " + key.meaning + ".";
+}
+
+bool isAlike(const DescribedKey& a, const DescribedKey& b) {
+  return a.name == b.name && innermost(a.type).record == innermost(b.type).record && startOf(a) == startOf(b) &&
+         factsOf(a) == factsOf(b);
+}
+
+/// Visits the keys: what several choices in a row have alike once, with all of them.
+void forEachKey(const DescribedRecord& record,
+                const std::function<void(const DescribedKey&, const std::vector<std::string>& choices)>& visit) {
+  std::vector<std::string> choices;
+  for (std::size_t i = 0; i < record.keys.size(); ++i) {
+    const DescribedKey& key = record.keys[i];
+    if (!key.onlyFor.empty()) choices.push_back(key.onlyFor);
+    if (i + 1 < record.keys.size() && isAlike(key, record.keys[i + 1])) continue;
+    visit(key, choices);
+    choices.clear();
+  }
+}
+
 /// The keys line by line: `key  type. Meaning. Facts.`, those of records indented below theirs.
 class KeyLines {
  public:
@@ -254,31 +291,16 @@ class KeyLines {
  private:
   void gather(const DescribedRecord& record, std::size_t indent) {
     m_open.push_back(&record);
-    std::vector<std::string> choices;
-    for (std::size_t i = 0; i < record.keys.size(); ++i) {
-      const DescribedKey& key = record.keys[i];
-      choices.push_back(key.onlyFor);
-      // One line for a key that several choices have in a row, if it is the same for all.
-      if (i + 1 < record.keys.size() && isAlike(key, record.keys[i + 1])) continue;
+    forEachKey(record, [&](const DescribedKey& key, const std::vector<std::string>& choices) {
       const DescribedRecord* const below = innermost(key.type).record;
       const bool isOpen = std::find(m_open.begin(), m_open.end(), below) != m_open.end();
       m_items.emplace_back(std::string(indent, ' ') + key.name,
-                           start(key) + (key.onlyFor.empty() ? "" : " Goes with " + quoted(choices) + ".") +
+                           startOf(key) + (choices.empty() ? "" : " Goes with " + quoted(choices) + ".") +
                                factsOf(key) + (below != nullptr && isOpen ? " Its keys are those above." : ""));
-      choices.clear();
       if (below != nullptr && !isOpen && key.kind.empty()) gather(*below, indent + 2);
-    }
+    });
     for (const DescribedRule& rule : record.rules) m_items.emplace_back(std::string(indent, ' '), inWords(rule));
     m_open.pop_back();
-  }
-
-  static std::string start(const DescribedKey& key) {
-    return (key.required ? "required " : "") + inWords(key.type) + ". " + key.meaning + ".";
-  }
-
-  static bool isAlike(const DescribedKey& a, const DescribedKey& b) {
-    return a.name == b.name && innermost(a.type).record == innermost(b.type).record && start(a) == start(b) &&
-           factsOf(a) == factsOf(b);
   }
 
   static std::string wrapped(const std::string& key, const std::string& text, std::size_t width) {
@@ -327,16 +349,18 @@ class KeysForPrograms {
   void add(Json& json, const DescribedRecord& record) {
     m_open.push_back(&record);
     json["keys"] = Json::array();
-    for (const DescribedKey& each : record.keys) json["keys"].push_back(key(each));
+    forEachKey(record, [&](const DescribedKey& each, const std::vector<std::string>& choices) {
+      json["keys"].push_back(key(each, choices));
+    });
     for (const DescribedRule& rule : record.rules) json["rules"].push_back(Json{{nameOf(rule.of), rule.keys}});
     m_open.pop_back();
   }
 
  private:
-  Json key(const DescribedKey& key) {
+  Json key(const DescribedKey& key, const std::vector<std::string>& choices) {
     const DescribedType& inner = innermost(key.type);
     Json json = {{"name", key.name}, {"meaning", key.meaning}, {"type", inWords(key.type)}, {"required", key.required}};
-    if (!key.onlyFor.empty()) json["onlyFor"] = key.onlyFor;
+    if (!choices.empty()) json["onlyFor"] = choices;
     if (!key.kind.empty()) json["kind"] = key.kind;
     if (!inner.choices.empty()) json["allowed"] = inner.choices;
     if (inner.of == DescribedType::kInteger) {

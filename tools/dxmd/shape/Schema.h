@@ -12,7 +12,8 @@ namespace dxmd_tool {
 /// well-formed, which characters XML has, that `***` is no secret, and what the library refuses it cannot say.
 Json schemaOf(const Description& description, const std::string& title, const std::string& summary);
 
-/// The keys for programs, as `dxmd kinds --json` prints them: an object with "keys" and "rules". Inside a record that
+/// The keys for programs, as `dxmd kinds --json` prints them: an object with "keys" and "rules". A key that
+/// goes with some texts of a choice has them as "onlyFor". Inside a record that
 /// holds itself the keys are not repeated.
 Json keysOf(const Description& description);
 
