@@ -117,9 +117,19 @@ void walk(const TRNIDOM_Node& root, const std::function<void(TRNIDOM_Node&)>& en
 }
 
 void refuse(const TRNIDOM_Node& at, const std::string& reason) {
-  std::string path;
+  // Of a deep place the outermost and the innermost steps.
+  constexpr std::size_t kMostAtEachEnd = 10;
+  std::vector<TRNIDOM_Node> way;
   for (TRNIDOM_Node node = at; node.getNodeType() == TRNIDOM_Node::ELEMENT_NODE; node = node.getParentNode())
-    path.insert(0, step(node));
+    way.push_back(node);
+  std::string path;
+  for (std::size_t left = way.size(); left > 0; --left) {
+    if (way.size() > 2 * kMostAtEachEnd && left == way.size() - kMostAtEachEnd) {
+      path += "/...";
+      left = kMostAtEachEnd;
+    }
+    path += step(way[left - 1]);
+  }
   throw XmlError(path + ": " + reason);
 }
 
