@@ -198,44 +198,13 @@ TEST_P(EveryKind, RandomJsonComesBack) {
   }
 }
 
-// What stands here is what users rely on: a kind that leaves the list loses something that it gave back before.
-TEST(EveryKindThatComesBackWhole, IsListed) {
-  const std::set<std::string> expected = {"execute",
-                                          "response",
-                                          "closeConnections",
-                                          "connection",
-                                          "expandParameter",
-                                          "expansionResult",
-                                          "packages",
-                                          "updateObjectRequest",
-                                          "updateObjectResponse",
-                                          "feedback",
-                                          "materializeRequest",
-                                          "materializeResponse",
-                                          "analyzeModelRequest",
-                                          "analyzeModelResponse",
-                                          "validate",
-                                          "validateReply",
-                                          "update",
-                                          "cancelQuery",
-                                          "getParameters",
-                                          "querySubject",
-                                          "getJoinPaths",
-                                          "joinPaths",
-                                          "refineObjects",
-                                          "refinedObjects",
-                                          "testConnection",
-                                          "dimInfo",
-                                          "dataSourceFault",
-                                          "dbConnections",
-                                          "definitionFile",
-                                          "objectAccess",
-                                          "importConfig",
-                                          "retargetObjectReferences"};
-  std::set<std::string> whole;
+// Users rely on it: a kind that joins these loses something that it gave back before.
+TEST(EveryKindComesBackWhole, ButThese) {
+  const std::set<std::string> expected = {"externalizeReport", "parameterValueItem", "securityObjects"};
+  std::set<std::string> losing;
   for (const Kind& kind : allKinds())
-    if (!losesKeys(kind.describe())) whole.insert(kind.name);
-  EXPECT_EQ(expected, whole);
+    if (losesKeys(kind.describe())) losing.insert(kind.name);
+  EXPECT_EQ(expected, losing);
 }
 
 TEST_P(EveryKind, ExampleIsEncodedAsTheRootDeclared) {
