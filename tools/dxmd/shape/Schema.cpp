@@ -370,6 +370,7 @@ class KeysForPrograms {
     if (!key.otherwise.empty()) json["default"] = Json::parse(key.otherwise);
     if (key.nonEmpty) json["nonEmpty"] = true;
     if (key.nonEmptyItems) json["nonEmptyItems"] = true;
+    if (key.elementNames) json["elementNames"] = true;
     if (key.lines) json["lines"] = true;
     if (key.nullableItems) json["nullableItems"] = true;
     if (key.secret) json["secret"] = true;
