@@ -122,7 +122,10 @@ TEST(OutOfMemory, RefusingToParse) {
 }
 
 TEST(OutOfMemory, Copying) {
-  const TRNIDOM_Element source = parsed("<a x='1'><\xC3\xA4 y='2'>text</\xC3\xA4><!--c--><![CDATA[d]]></a>");
+  // More than a document has in the block that it begins with, which is kept for the next one.
+  std::string xml = "<a x='1'><\xC3\xA4 y='2'>text</\xC3\xA4><!--c--><![CDATA[d]]>";
+  for (int i = 0; i < 2000; ++i) xml += "<b" + std::to_string(i) + " y='2'>" + kLong + "</b" + std::to_string(i) + ">";
+  const TRNIDOM_Element source = parsed(xml + "</a>");
   EXPECT_LT(0U, withEachAllocationFailing([&] {
               TRNIDOM_Document document = newDocument();
               document.appendChild(document.importNode(source, true));

@@ -198,13 +198,44 @@ TEST_P(EveryKind, RandomJsonComesBack) {
   }
 }
 
-// Users rely on it: a kind that joins these loses something that it gave back before.
-TEST(EveryKindComesBackWhole, ButThese) {
-  const std::set<std::string> expected = {"externalizeReport", "parameterValueItem", "securityObjects"};
-  std::set<std::string> losing;
+// What stands here is what users rely on: a kind that leaves the list loses something that it gave back before.
+TEST(EveryKindThatComesBackWhole, IsListed) {
+  const std::set<std::string> expected = {"execute",
+                                          "response",
+                                          "closeConnections",
+                                          "validate",
+                                          "validateReply",
+                                          "update",
+                                          "connection",
+                                          "dataSourceFault",
+                                          "cancelQuery",
+                                          "expandParameter",
+                                          "expansionResult",
+                                          "getParameters",
+                                          "querySubject",
+                                          "getJoinPaths",
+                                          "joinPaths",
+                                          "refineObjects",
+                                          "refinedObjects",
+                                          "testConnection",
+                                          "dimInfo",
+                                          "dbConnections",
+                                          "definitionFile",
+                                          "objectAccess",
+                                          "importConfig",
+                                          "retargetObjectReferences",
+                                          "packages",
+                                          "updateObjectRequest",
+                                          "updateObjectResponse",
+                                          "feedback",
+                                          "materializeRequest",
+                                          "materializeResponse",
+                                          "analyzeModelRequest",
+                                          "analyzeModelResponse"};
+  std::set<std::string> whole;
   for (const Kind& kind : allKinds())
-    if (losesKeys(kind.describe())) losing.insert(kind.name);
-  EXPECT_EQ(expected, losing);
+    if (!losesKeys(kind.describe())) whole.insert(kind.name);
+  EXPECT_EQ(expected, whole);
 }
 
 TEST_P(EveryKind, ExampleIsEncodedAsTheRootDeclared) {

@@ -13,9 +13,7 @@ using namespace dxmd_tool;
 namespace {
 
 enum ESize : int { kSizeUnset = 0, kSizeSmall = 1, kSizeLarge = 2 };
-const I18NString kSizeTexts[] = {"small", "large"};
-const EnumTable<ESize> kSizes{kSizeSmall, kSizeLarge,
-                              [](ESize size) -> const I18NString& { return kSizeTexts[size - kSizeSmall]; }};
+const EnumTable<ESize> kSizes{kSizeSmall, {"small", "large"}};
 
 void read(const std::string& text, const std::function<void(JsonObject&)>& reader) {
   readObject(Json::parse(text), "in", reader);
@@ -38,7 +36,9 @@ TEST(JsonReader, ReadsEachTypeOfValue) {
          EXPECT_EQ(kSizeLarge, json.required("size").enumerator(kSizes));
          EXPECT_EQ("en", json.required("locale").locale()->getName());
          expectXml("<a>b</a>", json.required("xml").xml());
-         EXPECT_EQ((std::vector<I18NString>{"x", ""}), json.required("list").texts());
+         std::vector<I18NString> items;
+         json.required("list").each([&](const JsonValue& item) { items.push_back(item.text()); });
+         EXPECT_EQ((std::vector<I18NString>{"x", ""}), items);
          json.required("free").members([](const I18NString& key, const JsonValue& value) {
            EXPECT_EQ("k", key);
            EXPECT_EQ("v", value.text());
@@ -57,17 +57,20 @@ TEST(JsonReader, WhatIsAbsentReadsAsEmptyOrAsGiven) {
     EXPECT_EQ(kSizeUnset, none.enumerator(kSizes));
     EXPECT_FALSE(none.locale());
     EXPECT_TRUE(none.xml().isNull());
-    EXPECT_TRUE(none.texts().empty());
     none.object([](JsonObject&) { FAIL(); });
-    none.objects([](JsonObject&) { FAIL(); });
+    none.each([](const JsonValue&) { FAIL(); });
     none.members([](const I18NString&, const JsonValue&) { FAIL(); });
   });
 }
 
 TEST(JsonReader, RefusalsNameThePlace) {
   const auto readSort = [](JsonObject& json) {
-    json.required("queries").objects([](JsonObject& query) {
-      query.required("items").objects([](JsonObject& item) { item.required("sort").enumerator(kSizes); });
+    json.required("queries").each([](const JsonValue& value) {
+      value.object([](JsonObject& query) {
+        query.required("items").each([](const JsonValue& inner) {
+          inner.object([](JsonObject& item) { item.required("sort").enumerator(kSizes); });
+        });
+      });
     });
   };
   expectRefused(R"(in: $.queries[1].items[0].sort: "up" is none of "small", "large")",

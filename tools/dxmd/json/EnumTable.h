@@ -32,16 +32,13 @@ class EnumTable {
   explicit EnumTable(I18NString (*toString)(const Enum&), std::optional<Enum> otherwise = std::nullopt)
       : m_toString(toString), m_otherwise(otherwise) {}
 
-  /// Enumerators from first to last, through the library's own conversion.
-  EnumTable(Enum first, Enum last, const I18NString& (*toString)(Enum)) : m_toString(toString) { fill(first, last); }
-  EnumTable(Enum first, Enum last, I18NString (*toString)(Enum)) : m_toString(toString) { fill(first, last); }
-
   /// Enumerators from the first on, by the texts given, where the library has no conversion to offer.
   EnumTable(Enum first, std::initializer_list<const char*> texts)
       : m_toString([first, all = std::vector<const char*>(texts)](Enum value) {
           return I18NString(all[static_cast<std::size_t>(value - first)]);
         }) {
-    fill(first, static_cast<Enum>(static_cast<int>(first) + static_cast<int>(texts.size()) - 1));
+    for (std::size_t i = 0; i < texts.size(); ++i)
+      m_values.push_back(static_cast<Enum>(static_cast<int>(first) + static_cast<int>(i)));
   }
 
   /// In order of their numbers.
@@ -81,11 +78,6 @@ class EnumTable {
     for (int number = 0; number <= kMost; ++number)
       if (const auto value = static_cast<Enum>(number); m_otherwise == value || m_toString(value) != none)
         m_values.push_back(value);
-  }
-
-  void fill(Enum first, Enum last) {
-    for (int number = static_cast<int>(first); number <= static_cast<int>(last); ++number)
-      m_values.push_back(static_cast<Enum>(number));
   }
 
   std::function<I18NString(Enum)> m_toString;

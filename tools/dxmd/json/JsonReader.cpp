@@ -88,12 +88,6 @@ TRNIDOM_Element JsonValue::xml() const {
   }
 }
 
-std::vector<I18NString> JsonValue::texts() const {
-  std::vector<I18NString> all;
-  each([&](const JsonValue& item) { all.push_back(item.text()); });
-  return all;
-}
-
 void JsonValue::object(const std::function<void(JsonObject&)>& read) const {
   if (m_json == nullptr) return;
   if (!m_json->is_object()) failType("an object");
@@ -106,10 +100,6 @@ void JsonValue::object(const std::function<void(JsonObject&)>& read) const {
     throw;
   }
   object.finish();
-}
-
-void JsonValue::objects(const std::function<void(JsonObject&)>& read) const {
-  each([&](const JsonValue& item) { item.object(read); });
 }
 
 void JsonValue::each(const std::function<void(const JsonValue&)>& read) const {
@@ -139,7 +129,7 @@ void JsonValue::failAmong(const std::string& texts) const {
 }
 
 std::size_t JsonValue::size() const {
-  return isList() || isObject() ? m_json->size() : 0;
+  return m_json != nullptr && m_json->is_structured() ? m_json->size() : 0;
 }
 
 bool JsonValue::isText() const {
@@ -152,10 +142,6 @@ bool JsonValue::isNull() const {
 
 bool JsonValue::isList() const {
   return m_json != nullptr && m_json->is_array();
-}
-
-bool JsonValue::isObject() const {
-  return m_json != nullptr && m_json->is_object();
 }
 
 bool JsonObject::has(std::string_view key) const {

@@ -73,14 +73,8 @@ class JsonValue {
   /// The root element of a text of XML; null when absent.
   TRNIDOM_Element xml() const;
 
-  /// A list of texts.
-  std::vector<I18NString> texts() const;
-
   /// An object: what `read` did not ask for is refused when it returns.
   void object(const std::function<void(JsonObject&)>& read) const;
-
-  /// A list of objects, each as above.
-  void objects(const std::function<void(JsonObject&)>& read) const;
 
   /// The items of a list.
   void each(const std::function<void(const JsonValue&)>& read) const;
@@ -91,7 +85,6 @@ class JsonValue {
   bool isText() const;
   bool isNull() const;
   bool isList() const;
-  bool isObject() const;
   /// The number of items or members; 0 for anything else.
   std::size_t size() const;
 

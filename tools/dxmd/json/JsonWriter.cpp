@@ -74,14 +74,6 @@ void write(std::string& out, const Json& json, unsigned indent, std::size_t colu
 
 }  // namespace
 
-void putUnlessEmpty(Json& json, const char* key, const I18NString& text) {
-  if (!text.empty()) json[key] = text;
-}
-
-void putUnlessEmpty(Json& json, const char* key, Json list) {
-  if (!list.empty()) json[key] = std::move(list);
-}
-
 I18NString xmlText(const TRNIDOM_Node& node) {
   const std::string xml = TRNIDOM_Writer::toString(node);
   return I18NString(xml.data(), nullptr, static_cast<long>(xml.size()));

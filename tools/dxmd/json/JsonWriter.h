@@ -12,12 +12,6 @@
 
 namespace dxmd_tool {
 
-/// Sets the member unless the text is empty.
-void putUnlessEmpty(Json& json, const char* key, const I18NString& text);
-
-/// Sets the member unless the list is empty.
-void putUnlessEmpty(Json& json, const char* key, Json list);
-
 /// A node as a text of XML, which `JsonValue::xml` reads back.
 I18NString xmlText(const TRNIDOM_Node& node);
 

@@ -106,8 +106,10 @@ Decoded decodeRendered(TRNIDOM_Element& root) {
   for (Helper* task : helper.GetTasks()) response.tasks.push_back(takeTask(*task));
   Decoded decoded = decodedRecord(response);
   Json& tasks = (*decoded.json())["tasks"];
-  for (std::size_t i = 0; i < tasks.size(); ++i)
-    putUnlessEmpty(tasks[i], "feedback", rendered(helper.GetTasks()[i]->GetFeedback()));
+  for (std::size_t i = 0; i < tasks.size(); ++i) {
+    const I18NString feedback = rendered(helper.GetTasks()[i]->GetFeedback());
+    if (!feedback.empty()) tasks[i]["feedback"] = feedback;
+  }
   return decoded;
 }
 
