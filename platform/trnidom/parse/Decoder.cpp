@@ -60,8 +60,11 @@ constexpr Mark kMarks[] = {{"\0\0\xFE\xFF"sv, "UTF-32BE"},
                            {"\xEF\xBB\xBF"sv, nullptr},
                            {"\xFE\xFF"sv, "UTF-16BE"},
                            {"\xFF\xFE"sv, "UTF-16LE"}};
-constexpr Mark kFirstCharacters[] = {
-    {"\0\0\0<"sv, "UTF-32BE"}, {"<\0\0\0"sv, "UTF-32LE"}, {"\0<"sv, "UTF-16BE"}, {"<\0"sv, "UTF-16LE"}};
+// The beginning of an XML declaration, without which a document of wide characters has to have a byte order mark.
+constexpr Mark kDeclarations[] = {{"\0\0\0<\0\0\0?\0\0\0x\0\0\0m\0\0\0l"sv, "UTF-32BE"},
+                                  {"<\0\0\0?\0\0\0x\0\0\0m\0\0\0l\0\0\0"sv, "UTF-32LE"},
+                                  {"\0<\0?\0x\0m\0l"sv, "UTF-16BE"},
+                                  {"<\0?\0x\0m\0l\0"sv, "UTF-16LE"}};
 
 /// Whether a document begins with "<?xml" and white space in EBCDIC, whose code pages agree on these.
 bool beginsInEbcdic(std::string_view first) noexcept {
@@ -88,7 +91,7 @@ bool isSameWidth(UConverterType told, UConverterType declared) noexcept {
 }  // namespace
 
 Decoder::Decoder(ByteInput& input) : m_input(input) {
-  constexpr std::size_t kTelling = 6;
+  constexpr std::size_t kTelling = 20;
   const std::string_view first = input.read(kTelling);
   const auto begins = [first](const Mark& mark) { return first.substr(0, mark.bytes.size()) == mark.bytes; };
   std::size_t markLength = 0;
@@ -97,8 +100,8 @@ Decoder::Decoder(ByteInput& input) : m_input(input) {
     m_kind = Kind::kMarked;
     markLength = mark->bytes.size();
     encoding = mark->encoding;
-  } else if (mark = std::find_if(std::begin(kFirstCharacters), std::end(kFirstCharacters), begins);
-             mark != std::end(kFirstCharacters)) {
+  } else if (mark = std::find_if(std::begin(kDeclarations), std::end(kDeclarations), begins);
+             mark != std::end(kDeclarations)) {
     m_kind = Kind::kWide;
     encoding = mark->encoding;
   } else if (beginsInEbcdic(first)) {

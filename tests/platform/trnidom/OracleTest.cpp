@@ -334,8 +334,6 @@ const KnownDifference kKnownDifferences[] = {
      [](const std::string& bytes, const std::string&) {
        return bytes.substr(0, 5) == "<?xml" && bytes.substr(5, 1).find_first_of("\t\r\n") == 0;
      }},
-    {"Xerces-C reads UTF-16 without a byte order mark only behind an XML declaration", false, "",
-     [](const std::string& bytes, const std::string&) { return bytes.substr(0, 2).find('\0') != std::string::npos; }},
 };
 
 bool isKnownDifference(const std::string& bytes, const Opinion& ours, const Opinion& xerces) {
