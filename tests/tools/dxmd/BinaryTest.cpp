@@ -84,7 +84,7 @@ TEST(Binary, OutputMayBeAPipe) {
 }
 
 TEST(Binary, OutOfMemoryIsStatus5AndNoAbort) {
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#if defined(DXMD_SANITIZED)
   GTEST_SKIP() << "sanitizers reserve more memory than that";
 #endif
   const TempFolder folder;
