@@ -67,7 +67,7 @@ std::string resolved(std::string path) {
     std::error_code error;
     const std::string target = std::filesystem::read_symlink(path, error);
     if (error) return path;
-    path = target.compare(0, 1, "/") == 0 ? target : placeOf(path).folder + "/" + target;
+    path = target.compare(0, 1, "/") == 0 ? target : placeOf(path).folder.append("/").append(target);
   }
   fail(asGiven, "cannot be written", ELOOP);
 }

@@ -39,7 +39,7 @@ std::size_t characterWidth(char32_t character) {
 /// Whether a cell is a number as databases print it.
 bool isNumber(std::string_view cell) {
   std::size_t at = cell.find_first_not_of("+-");
-  if (at == std::string_view::npos || at > 1) return false;
+  if (at > 1) return false;  // also when there is nothing else
   bool hasDigit = false;
   for (; at < cell.size() && (('0' <= cell[at] && cell[at] <= '9') || cell[at] == '.' || cell[at] == ','); ++at)
     hasDigit = hasDigit || (cell[at] != '.' && cell[at] != ',');

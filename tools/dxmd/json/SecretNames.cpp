@@ -145,7 +145,7 @@ class Finder {
       --end;
     std::size_t begin = end;
     while (begin > m_done && end - begin < kLongestName &&
-           ";&?={\"'\n\r,:([<>"sv.find(m_text[begin - 1]) == m_text.npos)
+           ";&?={\"'\n\r,:([<>"sv.find(m_text[begin - 1]) == std::string_view::npos)
       --begin;
     if (m_text[sign] == '=') return wordsOfLast(m_text.substr(begin, end - begin));
     std::vector<std::string> words = wordsOf(m_text.substr(begin, end - begin));
@@ -256,7 +256,8 @@ class Finder {
   std::size_t startOfLogin(std::size_t sign) {
     const std::size_t seen = std::max(m_done, m_loginSeen);
     std::size_t start = sign;
-    while (start > seen && !isSpace(m_text[start - 1]) && "\"'<>;,=({[&?"sv.find(m_text[start - 1]) == m_text.npos)
+    while (start > seen && !isSpace(m_text[start - 1]) &&
+           "\"'<>;,=({[&?"sv.find(m_text[start - 1]) == std::string_view::npos)
       --start;
     if (start == m_loginSeen && m_loginStart >= m_done) start = m_loginStart;
     m_loginStart = start;

@@ -131,6 +131,7 @@ class TableWriter final : public RowWriter {
  private:
   static std::vector<std::string> namesOf(const std::vector<RowColumn>& columns) {
     std::vector<std::string> names;
+    names.reserve(columns.size());
     for (const RowColumn& column : columns) names.push_back(column.name);
     return names;
   }

@@ -48,7 +48,7 @@ class SchemaWriter {
       if (same != objects.end())
         same->second.push_back(text);
       else
-        objects.push_back({std::move(object), {text}});
+        objects.emplace_back(std::move(object), std::vector<std::string>{text});
     }
     Json json = Json::object();
     for (auto& [object, texts] : objects) {

@@ -66,14 +66,14 @@ struct KeyFact {
   };
 
   What what = kNone;
+  Loss::How how = Loss::kNever;
   const char* text = "";
   const char* key = "";
-  Loss::How how = Loss::kNever;
 };
 
 /// An empty text or list is refused, for that reason.
 constexpr KeyFact nonEmpty(const char* reason = "must not be empty") {
-  return {KeyFact::kNonEmpty, reason};
+  return {KeyFact::kNonEmpty, Loss::kNever, reason};
 }
 /// An empty text in a list of texts is refused.
 constexpr KeyFact nonEmptyItems() {
@@ -89,7 +89,7 @@ constexpr KeyFact secret() {
 }
 /// The value is the JSON of that kind.
 constexpr KeyFact asKind(const char* kind) {
-  return {KeyFact::kAsKind, kind};
+  return {KeyFact::kAsKind, Loss::kNever, kind};
 }
 /// The keys of an object of texts are names of elements.
 constexpr KeyFact elementNames() {
@@ -104,22 +104,22 @@ constexpr KeyFact lines() {
 // test over all kinds goes by it.
 
 constexpr KeyFact neverReturns(const char* why) {
-  return {KeyFact::kLoss, why, "", Loss::kNever};
+  return {KeyFact::kLoss, Loss::kNever, why, ""};
 }
 constexpr KeyFact absentIsLost(const char* why) {
-  return {KeyFact::kLoss, why, "", Loss::kAbsent};
+  return {KeyFact::kLoss, Loss::kAbsent, why, ""};
 }
 constexpr KeyFact emptyIsLost(const char* why) {
-  return {KeyFact::kLoss, why, "", Loss::kEmpty};
+  return {KeyFact::kLoss, Loss::kEmpty, why, ""};
 }
 constexpr KeyFact repeatedIsLost(const char* why, const char* key = "") {
-  return {KeyFact::kLoss, why, key, Loss::kRepeated};
+  return {KeyFact::kLoss, Loss::kRepeated, why, key};
 }
 constexpr KeyFact choiceIsLost(const char* why, const char* choice) {
-  return {KeyFact::kLoss, why, choice, Loss::kChoice};
+  return {KeyFact::kLoss, Loss::kChoice, why, choice};
 }
 constexpr KeyFact orderIsLost(const char* why, const char* key = "") {
-  return {KeyFact::kLoss, why, key, Loss::kOrder};
+  return {KeyFact::kLoss, Loss::kOrder, why, key};
 }
 
 /// A key and what there is to say of it beside its type.
@@ -158,6 +158,8 @@ class Gatherer;
 /// A member of a record, as readers, writers and describers see it.
 class Value {
  public:
+  virtual ~Value() = default;
+
   virtual void read(const JsonValue& json) = 0;
   virtual void write(Json& json) const = 0;
   virtual void describe(DescribedType& type, Gatherer& gatherer) const = 0;
@@ -166,9 +168,6 @@ class Value {
   virtual bool isAbsent() const = 0;
   /// That as JSON; empty when it is no value of the type.
   virtual std::string absentAsJson() const = 0;
-
- protected:
-  ~Value() = default;
 };
 
 /// Lists the keys of a record. Each call adds one; the order is that of decoded JSON.
@@ -177,6 +176,7 @@ class Shape {
   Shape() = default;
   Shape(const Shape&) = delete;
   Shape& operator=(const Shape&) = delete;
+  virtual ~Shape() = default;
 
   /// A key that must be there.
   template <typename T, typename... Facts>
@@ -226,8 +226,6 @@ class Shape {
   void needsTrue(const char* list, const char* boolean) { rule(DescribedRule::kNeedsTrue, {list, boolean}); }
 
  protected:
-  ~Shape() = default;
-
   virtual void member(const KeyFacts& key, Value& value) = 0;
   virtual void rule(DescribedRule::Of of, const std::vector<std::string>& keys) = 0;
   virtual bool gathers() const { return false; }
@@ -523,9 +521,9 @@ class BoundOtherwise final : public Value {
 };
 
 template <typename Fact>
-constexpr bool isOtherwise = false;
+inline constexpr bool isOtherwise = false;
 template <typename T>
-constexpr bool isOtherwise<Otherwise<T>> = true;
+inline constexpr bool isOtherwise<Otherwise<T>> = true;
 
 template <typename Fact, typename... Facts>
 const auto& otherwiseAmong(const Fact& fact, const Facts&... facts) {

@@ -57,7 +57,8 @@ std::string escapedBut(std::string_view text, std::string_view kept) {
     const char32_t character = nextCharacter(text, at);
     if (character == kMalformed)
       appendEscape(out, static_cast<unsigned char>(text[start]));
-    else if (isControl(character) && (character > 0x7F || kept.find(static_cast<char>(character)) == kept.npos) &&
+    else if (isControl(character) &&
+             (character > 0x7F || kept.find(static_cast<char>(character)) == std::string_view::npos) &&
              !(character == '\r' && !kept.empty() && at < text.size() && text[at] == '\n'))
       appendEscape(out, character);
     else

@@ -62,7 +62,7 @@ TRNIDOM_Element make(const Dimension& dimension) {
 
 /// The name, which no external name may differ from.
 I18NString takeName(const TRNIDOM_Element& element) {
-  const I18NString name = textOf(requiredChild(element, "name"));
+  I18NString name = textOf(requiredChild(element, "name"));
   const TRNIDOM_Element externalName = firstChild(element, "externalName");
   if (!externalName.isNull() && textOf(externalName) != name) refuse(externalName, "the external name is not the name");
   return name;
