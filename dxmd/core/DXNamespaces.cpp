@@ -26,7 +26,7 @@ const I18NString& get(const std::atomic<const Setting*>& setting, const I18NStri
 void set(std::atomic<const Setting*>& setting, const I18NString& uri) {
   auto next = std::make_unique<Setting>(Setting{uri, setting.load(std::memory_order_relaxed)});
   while (!setting.compare_exchange_weak(next->previous, next.get(), std::memory_order_acq_rel)) continue;
-  next.release();
+  static_cast<void>(next.release());
 }
 
 }  // namespace

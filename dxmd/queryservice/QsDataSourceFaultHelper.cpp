@@ -34,7 +34,7 @@ void readText(const TRNIDOM_Element& fault, const I18NString& name, I18NString& 
 template <typename Record>
 void adopt(std::vector<Record*>& records, std::unique_ptr<Record> record) {
   records.push_back(record.get());
-  record.release();
+  static_cast<void>(record.release());
 }
 
 template <typename Record>

@@ -82,7 +82,7 @@ int ownDescriptor(std::string path) {
     if (std::filesystem::canonical(folder, error) == own && !error) return std::atoi(name.c_str());
     const std::string target = std::filesystem::read_symlink(path, error);
     if (error) return -1;
-    path = target.compare(0, 1, "/") == 0 ? target : folder + "/" + target;
+    path = target.compare(0, 1, "/") == 0 ? target : std::string(folder).append("/").append(target);
   }
   return -1;
 }

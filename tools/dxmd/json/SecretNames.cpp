@@ -159,9 +159,9 @@ class Finder {
     std::vector<std::string> words;
     std::size_t begin = segment.size();
     do {
-      begin = begin == 0 ? segment.npos : segment.find_last_of(" \t", begin - 1);
-      words = wordsOf(begin == segment.npos ? segment : segment.substr(begin));
-    } while (begin != segment.npos && (words.empty() || (words.size() == 1 && words[0] == "key")));
+      begin = begin == 0 ? std::string_view::npos : segment.find_last_of(" \t", begin - 1);
+      words = wordsOf(begin == std::string_view::npos ? segment : segment.substr(begin));
+    } while (begin != std::string_view::npos && (words.empty() || (words.size() == 1 && words[0] == "key")));
     return words;
   }
 
@@ -183,7 +183,8 @@ class Finder {
       const std::size_t behind = std::min(end + closing.size(), m_text.size());
       const std::size_t next = skipSpaces(behind);
       const bool isWhole = !isClosed || next == m_text.size() ||
-                           ";,&)}]>/\n\r?\"'\\"sv.find(m_text[next]) != m_text.npos || (isQuote && next > behind);
+                           ";,&)}]>/\n\r?\"'\\"sv.find(m_text[next]) != std::string_view::npos ||
+                           (isQuote && next > behind);
       if (m_text[sign] == ':' && isQuote && isWhole) {
         // JSON stays JSON.
         set(quote + 1, end);
@@ -236,16 +237,16 @@ class Finder {
     // The password may have such a sign too.
     std::size_t last = sign;
     for (std::size_t next = sign + 1; next < m_text.size() && next - sign < kLongestLogin && !isSpace(m_text[next]) &&
-                                      "\"'<>;,/?"sv.find(m_text[next]) == m_text.npos;
+                                      "\"'<>;,/?"sv.find(m_text[next]) == std::string_view::npos;
          ++next)
       if (m_text[next] == '@') last = next;
     m_at = last + 1;
     const std::size_t start = startOfLogin(last);
     const std::string_view token = m_text.substr(start, last - start);
     const std::size_t scheme = token.find("://");
-    const std::size_t user = scheme == token.npos ? (token.substr(0, 2) == "//" ? 2 : 0) : scheme + 3;
+    const std::size_t user = scheme == std::string_view::npos ? (token.substr(0, 2) == "//" ? 2 : 0) : scheme + 3;
     const std::size_t parting = token.find_first_of(":/", user);
-    if (parting == token.npos || parting + 1 >= token.size() || parting == user) return;
+    if (parting == std::string_view::npos || parting + 1 >= token.size() || parting == user) return;
     if (token.substr(0, parting) == "mailto") return;
     if (user > 0 && token[parting] == '/') return;  // a path behind a host
     if (user > 0 && isPortAndPath(token.substr(parting + 1))) return;

@@ -156,7 +156,7 @@ class SchemaWriter {
     const auto [known, isNew] = m_names.emplace(&record, key);
     if (!isNew) return known->second;
     while (m_definitions.contains(known->second)) known->second += '_';
-    const std::string name = known->second;
+    std::string name = known->second;
     m_definitions[name] = nullptr;
     Json json = object(record);
     m_definitions[name] = std::move(json);
