@@ -41,7 +41,7 @@ class TRNIDOM_API TRNIDOM_Parser {
   /// returned document has no element when the document element has that name. What is wrong with the document is found
   /// as the bytes come, so elements may have been visited by then.
   ///
-  /// @param source gives the bytes; it is asked for many at a time.
+  /// @param source gives the bytes; it is asked for a few, which tell the encoding, then for many at a time.
   /// @param name   of the elements to visit, with its prefix.
   /// @throws TRNIDOM_ParseError with line, column and reason; what source or visitor throw, as it is.
   static TRNIDOM_Document parseEach(const Source& source, const I18NString& name, const Visit& visit);
