@@ -7,8 +7,8 @@
 
 #include <trnidom/TRNIDOM_Export.h>
 
-/// A change that the DOM does not allow. Every failure of the DOM beneath leaves the wrapper as this one, except
-/// exhausted memory, which is std::bad_alloc.
+/// A change that the DOM does not allow. No other exception leaves the wrapper but TRNIDOM_ParseError and, for
+/// exhausted memory, std::bad_alloc.
 class TRNIDOM_API TRNIDOM_DOMException : public std::exception {
  public:
   /// The W3C's codes.

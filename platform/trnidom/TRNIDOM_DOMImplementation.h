@@ -6,7 +6,7 @@
 #include <trnidom/TRNIDOM_DocumentType.h>
 #include <trnidom/TRNIDOM_Export.h>
 
-/// Makes documents. The DOM beneath is initialised on first use, whatever thread comes first, and stays so.
+/// Makes documents. Nothing needs to be initialised, whatever thread comes first.
 class TRNIDOM_API TRNIDOM_DOMImplementation {
  public:
   /// The implementation; safe from any thread.
