@@ -51,6 +51,7 @@
 //   Kind kinds::notice() {
 //     Kind kind = kindOf(make, take);
 //     kind.summary = "A notice to the users of a model";
+//     kind.purpose = "Sent to the modelling service, which shows it to whoever opens the model.";
 //     kind.helper = "DXNoticeHelper";
 //     kind.roots = {"notice"};
 //     kind.example = R"({"text": "Closed on Monday"})";
@@ -141,6 +142,7 @@ struct Kind {
   std::string name;     ///< as typed; from kinds.def
   std::string family;   ///< the folder of its helper; from kinds.def
   std::string summary;  ///< one line
+  std::string purpose;  ///< who needs it for what, in whole sentences; lines of at most 100 columns
   std::string notes;    ///< what the keys' meanings cannot say, for the kind's help; lines of at most 100 columns
 
   std::string helper;  ///< the class that writes or reads it; its header bears the same name

@@ -178,7 +178,11 @@ std::string classOf(const Kind& kind) {
 }
 
 Json forPrograms(const Kind& kind) {
-  Json json = {{"kind", kind.name}, {"family", kind.family}, {"summary", kind.summary}, {"roots", kind.roots}};
+  Json json = {{"kind", kind.name},
+               {"family", kind.family},
+               {"summary", kind.summary},
+               {"purpose", kind.purpose},
+               {"roots", kind.roots}};
   if (!kind.wrapped.empty()) json["wrapped"] = kind.wrapped;
   if (!kind.orHolding.empty()) json["orHolding"] = kind.orHolding;
   json["class"] = kind.helper;
@@ -267,7 +271,7 @@ std::string notesOf(const Kind& kind) {
 }
 
 std::string describe(const Kind& kind) {
-  std::string text = kind.name + ": " + kind.summary + "\n\n";
+  std::string text = kind.name + ": " + kind.summary + "\n\n" + kind.purpose + "\n\n";
   text += "  dxmd encode " + kind.name + " [FILE]\n";
   text += "  dxmd decode " + kind.name + " [FILE]\n";
   for (const KindOption& option : kind.options)

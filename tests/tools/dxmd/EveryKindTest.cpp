@@ -128,10 +128,11 @@ std::set<std::string> secretsIn(Json json) {
 
 TEST_P(EveryKind, SaysWhatItIs) {
   EXPECT_FALSE(kind().summary.empty());
+  EXPECT_FALSE(kind().purpose.empty());
   EXPECT_FALSE(kind().roots.empty() && kind().orHolding.empty());
   EXPECT_TRUE(kind().describe && kind().encode && kind().decode);
-  std::istringstream notes(kind().notes);
-  for (std::string line; std::getline(notes, line);) EXPECT_LE(line.size(), 100u) << line;
+  std::istringstream texts(kind().purpose + "\n" + kind().notes);
+  for (std::string line; std::getline(texts, line);) EXPECT_LE(line.size(), 100u) << line;
 }
 
 TEST_P(EveryKind, SaysWhichClassIsItsOwnAndWhatAnswersIt) {

@@ -98,6 +98,8 @@ Dimension take(TRNIDOM_Element& root) {
 Kind kinds::dimInfo() {
   Kind kind = kindOf(make, take);
   kind.summary = "The levels and hierarchies of a dimension";
+  kind.purpose = R"(Describes a dimension to the modelling service: its levels, each with its key and attributes,
+and its hierarchies.)";
   kind.helper = "DimensionInfoHelper";
   kind.reads = Does::kTool;
   kind.roots = {"dimInfo"};

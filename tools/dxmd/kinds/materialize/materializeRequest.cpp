@@ -114,6 +114,8 @@ MaterializeRequest take(TRNIDOM_Element& root) {
 Kind kinds::materializeRequest() {
   Kind kind = kindOf(make, take);
   kind.summary = "Request to load a data file or to materialise data into a target data source";
+  kind.purpose = R"(Asks the service to load a data file into a table, to generate such a load, or to materialise a
+query subject or a result set in a target data source.)";
   kind.notes = R"(The materialise tasks are written as "genLoadDataFromFile", as the service expects; received under
 their own names they decode as themselves. The parts of a received request are found at any depth.)";
   kind.helper = "DXMaterializeRequestHelper";

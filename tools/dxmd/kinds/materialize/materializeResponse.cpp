@@ -46,6 +46,7 @@ MaterializeResponse take(TRNIDOM_Element& root) {
 Kind kinds::materializeResponse() {
   Kind kind = kindOf(make, take);
   kind.summary = "Answers to the tasks of a materializeRequest";
+  kind.purpose = "The service's answer to a materializeRequest: a text for each task.";
   kind.notes = R"(The materialise tasks are answered under "genLoadDataFromFile".)";
   kind.helper = "DXMaterializeResponseHelper";
   kind.writes = Does::kTool;

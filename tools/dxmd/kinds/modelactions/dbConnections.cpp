@@ -72,6 +72,8 @@ DBConnections take(TRNIDOM_Element& root) {
 Kind kinds::dbConnections() {
   Kind kind = kindOf(make, take);
   kind.summary = "The database connections of a data source";
+  kind.purpose = R"(Describes the database connections of a data source to the modelling services: each with its
+database, its type, how to connect and what to sign on with.)";
   kind.helper = "DXActionHelperDBConnections";
   kind.roots = {"dbConnections"};
   kind.example = R"({

@@ -116,6 +116,7 @@ Kind kinds::definitionFile() {
   kind.encode = encodeDefinitionFile;
   kind.decode = decodeDefinitionFile;
   kind.summary = "A query definition file, line by line";
+  kind.purpose = "Carries a query definition file: its path, its text line by line, and what its query runs against.";
   kind.notes = R"(With --from, the lines are those of a text file in UTF-8, the JSON has no "contents", and "filePath"
 is the path of that file unless the JSON has another.)";
   kind.helper = "DXActionHelperIQDFile";

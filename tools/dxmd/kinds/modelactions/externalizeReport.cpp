@@ -44,6 +44,8 @@ ExternalizeReport take(TRNIDOM_Element& root) {
 Kind kinds::externalizeReport() {
   Kind kind = kindOf(make, take);
   kind.summary = "How each model object was externalised, and to which file";
+  kind.purpose = R"(Reports on the externalisation of model objects: for each its method, the file written, and what
+went wrong.)";
   kind.helper = "DXExternalizeReportHelper";
   kind.roots = {"externalizeReport"};
   kind.example = R"({

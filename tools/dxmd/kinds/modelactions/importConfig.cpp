@@ -89,6 +89,8 @@ ImportConfig take(TRNIDOM_Element& root) {
 Kind kinds::importConfig() {
   Kind kind = kindOf(make, take);
   kind.summary = "The configuration of a metadata import source";
+  kind.purpose = R"(Describes a source that metadata is imported from: its plug-in, the parameters of its connection
+and what it can do.)";
   kind.helper = "DXActionHelperImportConfig";
   kind.writes = Does::kTool;
   kind.roots = {"source"};

@@ -56,6 +56,7 @@ ObjectAccess take(TRNIDOM_Element& root) {
 Kind kinds::objectAccess() {
   Kind kind = kindOf(make, take);
   kind.summary = "Who may access a model object: users, roles and groups with a rule each";
+  kind.purpose = "Tells who may see a model object: a rule, to allow or to deny, for each user, role or group.";
   kind.notes = R"(Reading takes whatever follows a principal for another one, and so refuses white space there.)";
   kind.helper = "DXActionHelperObjectAccess";
   kind.roots = {"objectAccess"};

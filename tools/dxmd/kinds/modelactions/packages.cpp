@@ -45,6 +45,7 @@ Packages take(TRNIDOM_Element& root) {
 Kind kinds::packages() {
   Kind kind = kindOf(make, take);
   kind.summary = "The published packages of a model";
+  kind.purpose = "Lists the published packages of a model: their default names, and where the content store has them.";
   kind.helper = "DXPackagesReportHelper";
   kind.roots = {"packages"};
   kind.example = R"({

@@ -60,6 +60,8 @@ RetargetObjectReferences take(TRNIDOM_Element& root) {
 Kind kinds::retargetObjectReferences() {
   Kind kind = kindOf(make, take);
   kind.summary = "Object references to be pointed at new targets";
+  kind.purpose = R"(Has references replaced by others: for each reference the new ones, and for each new one the
+items that get it.)";
   kind.helper = "DXActionHelperRetargetObjectReferences";
   kind.roots = {"retargetObjectReferences"};
   kind.example = R"({

@@ -76,6 +76,7 @@ SecurityObjects take(TRNIDOM_Element& root) {
 Kind kinds::securityObjects() {
   Kind kind = kindOf(make, take);
   kind.summary = "The views of a model that users, roles and groups are bound to";
+  kind.purpose = "Tells which views of a model, with their packages, each user, role or group is bound to.";
   kind.notes = R"(Reading refuses whatever follows a principal and is none, white space included.)";
   kind.helper = "DXActionHelperSecurityObjectSpec";
   kind.roots = {"securityObjects"};

@@ -70,6 +70,8 @@ std::string unsupportedChecks() {
 Kind kinds::analyzeModelRequest() {
   Kind kind = kindOf(make, take);
   kind.summary = "Request to check a model, or some of its objects";
+  kind.purpose = R"(Asks the modelling service to run checks over a model, or over the objects listed, and to report
+the issues that it finds.)";
   kind.notes =
       "A received task and its parts are found at any depth, but no task may stand inside another.\n"
       "Checks that are written and read, but not supported: " +

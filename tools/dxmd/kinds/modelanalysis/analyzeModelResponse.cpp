@@ -151,6 +151,8 @@ AnalyzeModelResponse take(TRNIDOM_Element& root) {
 Kind kinds::analyzeModelResponse() {
   Kind kind = kindOf(make, take);
   kind.summary = "Answer to an analyzeModelRequest: the issues found";
+  kind.purpose = R"(The modelling service's answer to an analyzeModelRequest: for each task whether it succeeded and
+what it found, with the objects concerned.)";
   kind.helper = "DXModelAnalysisResponseHelper";
   kind.reads = Does::kTool;
   kind.roots = {"analyzeModelResponse"};

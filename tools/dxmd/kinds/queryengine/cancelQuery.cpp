@@ -33,6 +33,8 @@ CancelQuery take(TRNIDOM_Element& root) {
 Kind kinds::cancelQuery() {
   Kind kind = kindOf(make, take);
   kind.summary = "Command to cancel the running request";
+  kind.purpose = R"(Has the query engine cancel the request that is running. It goes by identifiers of its own, so
+that it is not taken for the request that it cancels.)";
   kind.notes = R"(The identifiers are the command's own; the request cancelled is always "DXRequest".)";
   kind.helper = "VqeCancelQueryHelper";
   kind.reads = Does::kTool;

@@ -36,6 +36,7 @@ ExpandParameter take(TRNIDOM_Element& root) {
 Kind kinds::expandParameter() {
   Kind kind = kindOf(make, take);
   kind.summary = "Command to expand a parameterised expression";
+  kind.purpose = "Asks the query engine for an expression with the parameters in it expanded.";
   kind.helper = "VqeExpandParameterHelper";
   kind.reads = Does::kTool;
   kind.reply = "expansionResult";

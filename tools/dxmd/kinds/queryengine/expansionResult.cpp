@@ -31,6 +31,7 @@ ExpansionResult take(TRNIDOM_Element& root) {
 Kind kinds::expansionResult() {
   Kind kind = kindOf(make, take);
   kind.summary = "Reply to expandParameter";
+  kind.purpose = "The query engine's answer to expandParameter: the expression, expanded.";
   kind.helper = "VqeExpandParameterHelper";
   kind.writes = Does::kTool;
   kind.roots = {"response"};

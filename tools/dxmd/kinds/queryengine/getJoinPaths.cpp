@@ -39,6 +39,8 @@ GetJoinPaths take(TRNIDOM_Element& root) {
 Kind kinds::getJoinPaths() {
   Kind kind = kindOf(make, take);
   kind.summary = "Command to ask for the join paths between expressions";
+  kind.purpose = R"(Asks the query engine whether the things that several expressions refer to can be joined, and by
+which joins.)";
   kind.helper = "VqeGetJoinPathsHelper";
   kind.reads = Does::kTool;
   kind.reply = "joinPaths";

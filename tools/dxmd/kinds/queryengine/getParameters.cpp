@@ -47,6 +47,8 @@ GetParameters take(TRNIDOM_Element& root) {
 Kind kinds::getParameters() {
   Kind kind = kindOf(make, take);
   kind.summary = "List of parameters and their values";
+  kind.purpose = R"(Passes a list of parameters with their values to the query engine, or back. It is no command and
+has no envelope.)";
   kind.helper = "VqeGetParametersHelper";
   kind.roots = {"parameters"};
   kind.example = R"({

@@ -42,6 +42,7 @@ JoinPaths take(TRNIDOM_Element& root) {
 Kind kinds::joinPaths() {
   Kind kind = kindOf(make, take);
   kind.summary = "Reply to getJoinPaths";
+  kind.purpose = "The query engine's answer to getJoinPaths: whether there is a join path, and the joins of all paths.";
   kind.notes = R"(Written, all joins stand in one path.)";
   kind.helper = "VqeGetJoinPathsHelper";
   kind.writes = Does::kTool;

@@ -63,6 +63,7 @@ QuerySubject take(TRNIDOM_Element& root) {
 Kind kinds::querySubject() {
   Kind kind = kindOf(make, take);
   kind.summary = "Command to define an ad hoc query subject from SQL";
+  kind.purpose = "Has the query engine define an ad hoc query subject, from a definition that holds SQL.";
   kind.notes =
       R"(The type of the definition's first "sql" of type "veltra" is written as "Veltra", and read back as
 "veltra".)";

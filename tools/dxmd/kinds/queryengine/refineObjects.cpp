@@ -40,6 +40,8 @@ RefineObjects take(TRNIDOM_Element& root) {
 Kind kinds::refineObjects() {
   Kind kind = kindOf(make, take);
   kind.summary = "Command to refine a published model for a list of objects";
+  kind.purpose = R"(Asks the query engine to refine a published model for the objects listed. It answers with object
+IDs.)";
   kind.helper = "VqeRefineObjectsHelper";
   kind.reads = Does::kTool;
   kind.reply = "refinedObjects";

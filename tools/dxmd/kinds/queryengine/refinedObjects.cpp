@@ -35,6 +35,7 @@ RefinedObjects take(TRNIDOM_Element& root) {
 Kind kinds::refinedObjects() {
   Kind kind = kindOf(make, take);
   kind.summary = "Reply to refineObjects";
+  kind.purpose = "The query engine's answer to refineObjects: the IDs of objects, to be read one by one.";
   kind.notes = R"(Nothing, not even the white space of --indent, may stand between the "expression" elements.)";
   kind.helper = "VqeRefineObjectsHelper";
   kind.writes = Does::kTool;

@@ -55,6 +55,9 @@ TestConnection take(TRNIDOM_Element& root) {
 Kind kinds::testConnection() {
   Kind kind = kindOf(make, take);
   kind.summary = "Command to test a database connection";
+  kind.purpose = R"(Has the query engine try a database connection, given by its connection string and what to sign
+on with. Unlike other commands it has no namespaces, no identifiers and no connection of its own
+beside the tested one.)";
   kind.helper = "VqeTestConnectionHelper";
   kind.reads = Does::kTool;
   kind.roots = {"command"};

@@ -29,6 +29,7 @@ CloseConnections take(TRNIDOM_Element& root) {
 Kind kinds::closeConnections() {
   Kind kind = kindOf(make, take);
   kind.summary = "Command to close the connections of the service";
+  kind.purpose = "Has the query framework service close its connections.";
   kind.helper = "QFCloseConnectionsCommandHelper";
   kind.reads = Does::kTool;
   kind.roots = {"command"};

@@ -306,6 +306,8 @@ Execute take(TRNIDOM_Element& root) {
 Kind kinds::execute() {
   Kind kind = kindOf(make, take);
   kind.summary = "Command to run queries and return their rows";
+  kind.purpose = R"(Has the query framework service run queries against a model and send back their rows. It says
+what to select, filter and combine, how to process it, and what to report beside the rows.)";
   kind.notes = R"(The queries share one result definition, named after the last of them; a first query named
 "SingleCount" or "querySet" alone is defined. Result definitions follow from the queries and are not
 decoded.)";

@@ -272,6 +272,8 @@ Kind kinds::response() {
   kind.encode = encodeReply;
   kind.decode = decodeReply;
   kind.summary = "Reply to an execute command: feedback, data sources, columns and rows";
+  kind.purpose = R"(What the query framework service sends back for an execute command: the feedback asked for, the
+data sources that the queries used, the columns of the result, and its rows.)";
   kind.notes = R"(With --format csv, ndjson or table the rows alone print. A value of a row that is NULL, which has
 no attribute "v", is null in JSON and an empty field in CSV and a table; an empty text is "" in all.
 The parts are found at any depth. Between the columns no white space may stand.)";

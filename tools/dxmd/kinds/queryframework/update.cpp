@@ -54,6 +54,7 @@ Update take(TRNIDOM_Element& root) {
 Kind kinds::update() {
   Kind kind = kindOf(make, take);
   kind.summary = "Command to send texts for the subjects of a model";
+  kind.purpose = "Sends the query framework service a text for each of several named subjects of a model.";
   kind.helper = "QFUpdateCommandHelper";
   kind.reads = Does::kTool;
   kind.roots = {"command"};

@@ -50,6 +50,8 @@ Validate take(TRNIDOM_Element& root) {
 Kind kinds::validate() {
   Kind kind = kindOf(make, take);
   kind.summary = "Command to validate what it holds";
+  kind.purpose = R"(Hands content, such as expressions, to the query framework service, which says what is wrong
+with it.)";
   kind.helper = "QFValidateCommandHelper";
   kind.reads = Does::kTool;
   kind.reply = "validateReply";

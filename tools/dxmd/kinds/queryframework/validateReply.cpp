@@ -67,6 +67,8 @@ ValidateReply take(TRNIDOM_Element& root) {
 Kind kinds::validateReply() {
   Kind kind = kindOf(make, take);
   kind.summary = "Reply to a validate command: severity and messages";
+  kind.purpose = R"(What the query framework service says to a validate command: messages, each with a severity.
+Reading makes one severity and one text of them.)";
   kind.notes =
       R"("severity" is what the messages make of it one after the other: a warning after a fatal message
 lowers it, and so does information after any other. Each line of "messages" is written as a message

@@ -144,6 +144,8 @@ Connection takeConnection(TRNIDOM_Element& root) {
 Kind kinds::connection() {
   Kind kind = kindOf(makeConnection, takeConnection);
   kind.summary = "What a request runs against: service, data source, user, session and models";
+  kind.purpose = R"(Goes into commands and tells what they run against: which service, data source and models, for
+which user, in which session and languages.)";
   kind.notes = R"(The service is "DX" unless "properties" has another "serviceID".)";
   kind.helper = "QsApiConnectHelper";
   kind.reads = Does::kTool;

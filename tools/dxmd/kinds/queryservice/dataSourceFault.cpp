@@ -220,6 +220,8 @@ Fault take(TRNIDOM_Element& root) {
 Kind kinds::dataSourceFault() {
   Kind kind = kindOf(make, take);
   kind.summary = "Fault that the query service reports about a data source";
+  kind.purpose = R"(What the query service sends instead of an answer when a data source, its connection or its
+sign-on is at fault: what is wrong, with what, and descriptions of the data sources.)";
   kind.helper = "QsDataSourceFaultHelper";
   kind.writes = Does::kTool;
   kind.roots = {"fault"};

@@ -147,6 +147,8 @@ Item take(TRNIDOM_Element& root) {
 Kind kinds::parameterValueItem() {
   Kind kind = kindOf(make, take);
   kind.summary = "Value of a parameter: a simple value, a range, a hierarchical value or null";
+  kind.purpose = R"(A default, possible or chosen value of a parameter. It stands inside other documents, which
+declare the prefixes "xsi" and "bus".)";
   kind.notes = R"(Other forms than that of the example:
   {"type": "simple", "use": "North"}
   {"type": "range", "start": {"use": "2023"}, "end": {"inclusive": false, "use": "2025"}}

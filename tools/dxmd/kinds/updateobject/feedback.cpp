@@ -102,6 +102,8 @@ Kind kinds::feedback() {
   Kind kind = kindOf(make, take);
   kind.decode = decodeFeedback;
   kind.summary = "Messages that an action of the modelling tool reports";
+  kind.purpose = R"(The messages that a model action reports back: notes, warnings, errors and traces, nested to any
+depth. It also stands in the tasks of an updateObjectResponse.)";
   kind.notes = R"(The library reads no entries, but renders them as text. With --format text that prints: one line for
 each entry, whatever it is below.)";
   kind.helper = "DXActionFeedbackHelper";

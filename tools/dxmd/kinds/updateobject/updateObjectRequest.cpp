@@ -136,6 +136,8 @@ Kind kinds::updateObjectRequest() {
   Kind kind = kindOf(make, take);
   kind.decode = decodeRequest;
   kind.summary = "Request to change properties and objects of a model";
+  kind.purpose = R"(Asks the modelling service to change a model, task by task: to add, remove, reorder or update a
+property of an object, or to add or remove an object.)";
   kind.notes = R"(A received task and its parameters are found at any depth, but no task may stand inside another, and
 no parameter inside another.
 

@@ -123,6 +123,8 @@ Kind kinds::updateObjectResponse() {
   Kind kind = kindOf(make, take);
   kind.decode = decodeResponse;
   kind.summary = "Answer to an updateObjectRequest: what became of each task";
+  kind.purpose = R"(The modelling service's answer to an updateObjectRequest: for each task its status, what it
+touched, the error if it failed, and the messages reported.)";
   kind.notes = R"(A received task and its parts are found at any depth, but no task may stand inside another.)";
   kind.helper = "DXUpdateObjectResponseHelper";
   kind.roots = {"updateObjectResponse"};
