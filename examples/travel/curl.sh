@@ -1,0 +1,33 @@
+#!/usr/bin/env bash
+# Sends three commands with curl and says what came back: curl.sh [URL], by default that of the stand-in service.
+set -euo pipefail
+cd "$(dirname "$0")/../messages/queryframework"
+
+url=${1:-http://127.0.0.1:8080}
+reply=$(mktemp)
+trap 'rm -f "$reply"' EXIT
+
+ask() { # KIND [FILE]
+  dxmd encode "$@" |
+    curl --silent --show-error --header 'Content-Type: text/xml; charset=utf-8' --data-binary @- --output "$reply" "$url"
+}
+
+tell() {
+  local fault messages
+  if fault=$(dxmd decode dataSourceFault "$reply" 2>/dev/null); then
+    echo "$fault"
+    return
+  fi
+  messages=$(dxmd decode validateReply "$reply")
+  case $messages in
+    *'"severity": "fatal"'* | *'"severity": "error"'*) echo "$messages" ;;
+    *) dxmd decode response "$reply" --format table ;;
+  esac
+}
+
+ask execute execute.json
+tell
+sed 's/Sales/Orders/g' execute.json | ask execute
+tell
+ask validate validate.json
+tell
