@@ -44,12 +44,20 @@ class TRN_API I18NString {
     return I18NString(std::u16string_view(text, length));
   }
 
+  /// The same text; a long one is shared, not copied.
   I18NString(const I18NString& other);
+
+  /// Leaves the other text empty.
   I18NString(I18NString&& other) noexcept;
+
+  /// Becomes the same text; a long one is shared, not copied.
   I18NString& operator=(const I18NString& other);
+
+  /// Leaves the other text empty, but for an assignment to itself, which changes nothing.
   I18NString& operator=(I18NString&& other) noexcept;
   ~I18NString();
 
+  /// Whether the text has no code unit.
   bool empty() const noexcept { return length() == 0; }
 
   /// Length in UTF-16 code units.
@@ -64,15 +72,20 @@ class TRN_API I18NString {
   /// The text as UTF-8; a lone surrogate becomes U+FFFD.
   std::string toUtf8() const;
 
+  /// Appends the other text, which may be this one.
   /// @throws std::bad_alloc, and this text is empty then.
   I18NString& operator+=(const I18NString& other);
 
+  /// The two texts joined.
   friend I18NString operator+(const I18NString& left, const I18NString& right) {
     I18NString result(left);
     result += right;
     return result;
   }
+  /// Whether both have the same code units.
   friend bool operator==(const I18NString& left, const I18NString& right) noexcept { return left.equals(right); }
+
+  /// Whether they differ in a code unit.
   friend bool operator!=(const I18NString& left, const I18NString& right) noexcept { return !left.equals(right); }
 
   /// A total order by UTF-16 code unit.
@@ -86,11 +99,14 @@ class TRN_API I18NString {
   alignas(8) unsigned char m_storage[64];
 };
 
-/// Writes the text as UTF-8.
+/// Writes the text as UTF-8; a lone surrogate becomes U+FFFD.
+/// @relates I18NString
 TRN_API std::ostream& operator<<(std::ostream& out, const I18NString& text);
 
+/// Hashes the code units, so that equal texts have equal hashes.
 template <>
 struct std::hash<I18NString> {
+  /// The text's hash; the same as long as the process runs.
   TRN_API std::size_t operator()(const I18NString& text) const noexcept;
 };
 

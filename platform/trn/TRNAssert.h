@@ -1,6 +1,9 @@
 #ifndef TRN_TRNASSERT_H
 #define TRN_TRNASSERT_H
 
+/// @file
+/// The assertions that the helpers check received documents and their own state with.
+
 #include <array>
 #include <cstddef>
 
@@ -40,11 +43,13 @@ struct FileStem {
     }                                                                                         \
   } while (false)
 
-/// Throws a TRNAssertError when the condition is false; its message is this call's own source text. Never compiled
-/// out.
+/// Throws a TRNAssertError with code 0 when the condition is false. Never compiled out.
+///
+/// Its message is this call's own source text, as in `TRN_ASSERT(!elem.isNull());`, and its location the line and the
+/// name of the source file without folder and ending. The condition may hold commas.
 #define TRN_ASSERT(...) TRN_DETAIL_CHECK("TRN_ASSERT(" #__VA_ARGS__ ");", __VA_ARGS__)
 
-/// The same with an explanation, which becomes part of the message.
+/// The same with an explanation, a literal, which becomes part of the message.
 #define TRN_ASSERT_NAMED(condition, text) TRN_DETAIL_CHECK("TRN_ASSERT_NAMED(" #condition ", " #text ");", condition)
 
 #endif

@@ -6,10 +6,14 @@
 /// A place in the sources: the file's name without folder or ending, and the line.
 class TRN_API TRNFileLocation {
  public:
-  /// @param file  a text that lives as long as the process; not copied.
+  /// @param file  the file's name without folder or ending: a text that lives as long as the process; not copied.
+  /// @param line  counted from 1.
   constexpr TRNFileLocation(const char* file, int line) noexcept : m_file(file), m_line(line) {}
 
+  /// The file's name, as in "VqeRefineObjectsHelper".
   constexpr const char* getFile() const noexcept { return m_file; }
+
+  /// The line, counted from 1.
   constexpr int getLine() const noexcept { return m_line; }
 
  private:

@@ -5,7 +5,7 @@
 
 #include <trn/TRNExport.h>
 
-/// A non-recursive mutex. Entered through a TRNThreadGuard.
+/// A non-recursive mutex, entered through a TRNThreadGuard. A static one needs no code at load.
 class TRN_API TRNThreadCriticalSection {
  public:
   /// @param option  kind of lock; every value selects the same one.
@@ -16,6 +16,8 @@ class TRN_API TRNThreadCriticalSection {
 
   /// Waits until no other thread is inside. Entering twice from one thread is a deadlock.
   void enter() { m_mutex.lock(); }
+
+  /// Lets the next thread in. For the thread that is inside.
   void leave() noexcept { m_mutex.unlock(); }
 
  private:

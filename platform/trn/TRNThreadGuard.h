@@ -7,7 +7,11 @@
 /// Holds a critical section from its construction until `release()` or its destruction.
 class TRN_API TRNThreadGuard {
  public:
+  /// Enters the section, waiting while another thread is inside.
+  /// @param section  must outlive the guard; not already held by this thread.
   explicit TRNThreadGuard(TRNThreadCriticalSection& section) : m_section(&section) { m_section->enter(); }
+
+  /// Leaves the section unless it was left already.
   ~TRNThreadGuard() { release(); }
 
   TRNThreadGuard(const TRNThreadGuard&) = delete;

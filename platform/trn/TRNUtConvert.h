@@ -8,7 +8,9 @@
 class TRN_API TRNUtConvert {
  public:
   /// Writes a signed number. With `(value, 1, '0', 0, '+', '-')` this is `printf("%ld")`.
+  /// @param value      the number.
   /// @param minDigits  fewest digits; shorter numbers are filled with `padDigit` in front.
+  /// @param padDigit   what to fill with.
   /// @param width      fewest characters, sign included; shorter texts are filled with spaces in front.
   /// @param plus       never written; positive numbers carry no sign.
   /// @param minus      written before a negative number.
