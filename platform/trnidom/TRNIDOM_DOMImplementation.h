@@ -12,7 +12,7 @@ class TRNIDOM_API TRNIDOM_DOMImplementation {
   /// The implementation; safe from any thread.
   static TRNIDOM_DOMImplementation getInstance();
 
-  /// Makes a document.
+  /// Makes a document, which lives as long as a handle into it.
   /// @param namespaceURI   namespace of the document element; empty means none.
   /// @param qualifiedName  name of the document element; empty makes a document without one.
   /// @param doctype        must be null.

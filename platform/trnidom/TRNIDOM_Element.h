@@ -14,17 +14,25 @@
 /// asked its name. Asked an element's question, a node that is no element answers null, empty or false.
 class TRNIDOM_API TRNIDOM_Element : public TRNIDOM_Node {
  public:
+  /// The null handle.
   TRNIDOM_Element() noexcept = default;
-  TRNIDOM_Element(const TRNIDOM_Node& node) noexcept : TRNIDOM_Node(node) {}        // NOLINT: implicit by design
+
+  /// The same node, without a check.
+  TRNIDOM_Element(const TRNIDOM_Node& node) noexcept : TRNIDOM_Node(node) {}  // NOLINT: implicit by design
+
+  /// The same node, without a check; the other handle is null then.
   TRNIDOM_Element(TRNIDOM_Node&& node) noexcept : TRNIDOM_Node(std::move(node)) {}  // NOLINT: implicit by design
 
   /// A document is no element: `getDocumentElement()` was forgotten.
   TRNIDOM_Element(const TRNIDOM_Document& document) = delete;
 
+  /// The element's name with its prefix; empty for a node that is no element.
   I18NString getTagName() const;
 
   /// The attribute's value; empty when it is absent.
   I18NString getAttribute(const I18NString& name) const;
+
+  /// Whether there is such an attribute, also an empty one.
   bool hasAttribute(const I18NString& name) const;
 
   /// Adds the attribute or replaces its value.

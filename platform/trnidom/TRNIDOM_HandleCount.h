@@ -22,12 +22,15 @@ class TRNIDOM_API TRNIDOM_HandleCount {
   TRNIDOM_HandleCount(const TRNIDOM_HandleCount&) = delete;
   TRNIDOM_HandleCount& operator=(const TRNIDOM_HandleCount&) = delete;
 
+  /// Counts a handle more.
   void add() noexcept {
     if (isSingleThreaded())
       m_handles.store(m_handles.load(std::memory_order_relaxed) + 1, std::memory_order_relaxed);
     else
       m_handles.fetch_add(1, std::memory_order_relaxed);
   }
+
+  /// Counts a handle less; the last one frees the document.
   void remove() noexcept {
     if (countDown() == 0) freeDocument();
   }

@@ -8,9 +8,9 @@
 
 /// Finds elements below a node, and makes those that are missing.
 ///
-/// Names, texts and values are compared exactly, as a whole. A null parent gives a null handle or empty text. Finding
-/// or creating n distinct children under one parent costs O(n) in all, also where their keys change or some are removed
-/// in between.
+/// Names, texts and values are compared exactly, as a whole. A null parent gives a null handle or empty text and
+/// creates nothing. Finding or creating n distinct children under one parent costs O(n) in all, also where their keys
+/// change or some are removed in between.
 class TRNIDOM_API TRNIDOM_Helper {
  public:
   /// The first child element of that name, or null.
@@ -24,10 +24,12 @@ class TRNIDOM_API TRNIDOM_Helper {
                                                   const I18NString& attrName, const I18NString& attrValue);
 
   /// The first child element of that name; a new one appended to the parent when there is none.
+  /// @throws TRNIDOM_DOMException when one is to be created and the name is no XML name or the parent can have no
+  ///         children; so do the next two.
   static TRNIDOM_Element findOrCreateElement(const TRNIDOM_Node& parent, const I18NString& name);
 
-  /// The first child element of that name and text; a new one appended to the parent when there is none. An empty text
-  /// adds no text node.
+  /// The first child element of that name whose whole text is the given one; a new one appended to the parent when
+  /// there is none. An empty text adds no text node.
   static TRNIDOM_Element findOrCreateElementWithText(const TRNIDOM_Node& parent, const I18NString& name,
                                                      const I18NString& text);
 

@@ -16,12 +16,13 @@
 /// Threads: asking for an attribute by index moves the map on, so that one map is used by one thread at a time.
 class TRNIDOM_API TRNIDOM_NamedNodeMap {
  public:
-  using iterator = TRNIDOM_IndexIterator<TRNIDOM_NamedNodeMap>;
-  using const_iterator = iterator;
+  using iterator = TRNIDOM_IndexIterator<TRNIDOM_NamedNodeMap>;  ///< what `begin` gives
+  using const_iterator = iterator;                               ///< the same: no node is changed through one
 
   /// The empty map.
   TRNIDOM_NamedNodeMap() = default;
 
+  /// The number of attributes; 0 for a node that is no element.
   std::size_t getLength() const noexcept;
 
   /// The attribute at that index; null past the end.
@@ -30,7 +31,10 @@ class TRNIDOM_API TRNIDOM_NamedNodeMap {
   /// The attribute of that name, or null.
   TRNIDOM_Node getNamedItem(const I18NString& name) const;
 
+  /// For a range-based loop; valid as long as the map.
   iterator begin() const;
+
+  /// The end, wherever that is by the time it is compared.
   iterator end() const;
 
  private:

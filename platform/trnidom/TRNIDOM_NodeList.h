@@ -23,18 +23,22 @@ struct Name;
 /// Threads: asking a list moves it on, so that one list is used by one thread at a time.
 class TRNIDOM_API TRNIDOM_NodeList {
  public:
-  using iterator = TRNIDOM_IndexIterator<TRNIDOM_NodeList>;
-  using const_iterator = iterator;
+  using iterator = TRNIDOM_IndexIterator<TRNIDOM_NodeList>;  ///< what `begin` gives
+  using const_iterator = iterator;                           ///< the same: no node is changed through one
 
   /// The empty list.
   TRNIDOM_NodeList() = default;
 
+  /// The number of nodes, counted again when the tree has changed.
   std::size_t getLength() const;
 
   /// The node at that index; null past the end.
   TRNIDOM_Node item(std::size_t index) const;
 
+  /// For a range-based loop; valid as long as the list.
   iterator begin() const;
+
+  /// The end, wherever that is by the time it is compared.
   iterator end() const;
 
  private:

@@ -28,10 +28,12 @@ class TRNIDOM_API TRNIDOM_Parser {
   /// which ends the parsing.
   using Visit = std::function<void(TRNIDOM_Element element)>;
 
+  /// The document that the bytes are.
   /// @throws TRNIDOM_ParseError with line, column and reason.
   static TRNIDOM_Document parseString(const std::string& bytes);
 
-  /// @throws TRNIDOM_ParseError; without a place when the file cannot be read.
+  /// The document in that file.
+  /// @throws TRNIDOM_ParseError as `parseString`; without a place when the file cannot be read.
   static TRNIDOM_Document parseFile(const std::string& path);
 
   /// Parses a document that may be larger than memory, element by element.
@@ -41,8 +43,9 @@ class TRNIDOM_API TRNIDOM_Parser {
   /// returned document has no element when the document element has that name. What is wrong with the document is found
   /// as the bytes come, so elements may have been visited by then.
   ///
-  /// @param source gives the bytes; it is asked for a few, which tell the encoding, then for many at a time.
-  /// @param name   of the elements to visit, with its prefix.
+  /// @param source  gives the bytes; it is asked for a few, which tell the encoding, then for many at a time.
+  /// @param name    of the elements to visit, with its prefix.
+  /// @param visit   is handed each of them, in document order.
   /// @throws TRNIDOM_ParseError with line, column and reason; what source or visitor throw, as it is.
   static TRNIDOM_Document parseEach(const Source& source, const I18NString& name, const Visit& visit);
 };

@@ -6,10 +6,14 @@
 #include <trnidom/TRNIDOM_Export.h>
 #include <trnidom/TRNIDOM_Node.h>
 
-/// Writes nodes as XML 1.0 in UTF-8. What it writes reads back as the same tree.
+/// Writes nodes as XML 1.0 in UTF-8. What it writes without indentation reads back as the same tree.
+///
+/// Threads: a document may be written by several threads at once while none changes it.
 class TRNIDOM_API TRNIDOM_Writer {
  public:
+  /// How to write.
   struct Options {
+    /// Compact, without XML declaration.
     Options() noexcept : indent(0), declaration(false) {}
 
     unsigned indent;   ///< spaces per level down to a hundred, never inside mixed content; 0 writes none
