@@ -14,6 +14,7 @@
 /// Threads: a helper is used by one thread at a time; different helpers by different threads at once.
 class DXMD_API ActionHandlerBase {
  public:
+  /// Holds nothing.
   ActionHandlerBase() = default;
   virtual ~ActionHandlerBase();
 
@@ -28,10 +29,12 @@ class DXMD_API ActionHandlerBase {
   void Take(TRNIDOM_Element& elem);
 
  protected:
-  /// Writes the helper's XML: creates in `doc`, hands back in `elem`. By default writes nothing.
+  /// Writes the helper's XML: what `Make` calls. By default writes nothing.
+  /// @param doc   a document of its own, named "requestDoc", in which new elements are created.
+  /// @param elem  the caller's handle, through which the new element is handed back.
   virtual void doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const;
 
-  /// Reads `elem`. By default reads nothing.
+  /// Reads a received element: what `Take` calls. By default reads nothing.
   virtual void doTake(TRNIDOM_Element& elem);
 };
 

@@ -6,18 +6,28 @@
 #include <utility>
 #include <vector>
 
+/// What the helpers' headers share. Programs have no use for it.
 namespace dxmd {
 
-/// Records that a helper owns and hands out as plain pointers. They live as long as the list that has them.
+/// Records that a helper owns and hands out as plain pointers. They live as long as the list that has them. It is in
+/// the helpers' headers because they hold such lists; programs have no use for it.
+/// @tparam T  the record; need not be movable.
 template <typename T>
 class OwnedList {
  public:
+  /// An empty list.
   OwnedList() noexcept = default;
+
+  /// Takes the records over; the other list is empty then.
   OwnedList(OwnedList&& other) noexcept : m_items(std::exchange(other.m_items, {})) {}
+
+  /// Swaps the records of the two lists.
   OwnedList& operator=(OwnedList&& other) noexcept {
     std::swap(m_items, other.m_items);
     return *this;
   }
+
+  /// Deletes the records.
   ~OwnedList() {
     for (const T* item : m_items) delete item;
   }
@@ -25,9 +35,16 @@ class OwnedList {
   /// The records in order; they stay owned by the list.
   const std::vector<T*>& items() const noexcept { return m_items; }
 
+  /// Whether there is no record.
   bool empty() const noexcept { return m_items.empty(); }
+
+  /// The number of records.
   std::size_t size() const noexcept { return m_items.size(); }
+
+  /// For a loop over the pointers; as valid as `items().begin()`.
   auto begin() const noexcept { return m_items.begin(); }
+
+  /// The end of that loop.
   auto end() const noexcept { return m_items.end(); }
 
   /// Appends the record and returns it. Nothing leaks and nothing changes when memory runs out.

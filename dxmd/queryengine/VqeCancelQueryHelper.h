@@ -12,6 +12,7 @@
 /// it cancels.
 class DXMD_API VqeCancelQueryHelper : public QFCommandHelper {
  public:
+  /// A command that cancels the default request.
   VqeCancelQueryHelper();
   ~VqeCancelQueryHelper() override;
 

@@ -15,10 +15,11 @@
 /// A helper is used by one thread at a time.
 class DXMD_API VqeExpandParameterHelper : public QFDXCommandHelper {
  public:
+  /// @param modelPath  the model that the expression is about: the text of "model" in "source".
   explicit VqeExpandParameterHelper(const I18NString& modelPath);
   ~VqeExpandParameterHelper() override;
 
-  /// Sets the expression to expand.
+  /// Sets the expression to expand: the text of "expression", written also when empty.
   void SetParameterisedValue(const I18NString& value);
 
   /// The expanded text of the response last taken; empty when none was taken. Only the first text node counts.

@@ -18,6 +18,7 @@
 /// nothing. A helper is used by one thread at a time.
 class DXMD_API VqeGetJoinPathsHelper : public QFDXCommandHelper {
  public:
+  /// @param modelPath  the model whose join paths are asked for: the text of "model" in "source".
   explicit VqeGetJoinPathsHelper(const I18NString& modelPath);
   ~VqeGetJoinPathsHelper() override;
 

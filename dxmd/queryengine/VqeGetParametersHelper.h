@@ -23,10 +23,11 @@ class DXMD_API VqeGetParametersHelper : public ActionHandlerBase {
   static const I18NString kParmNameAttr;   ///< "name"
   static const I18NString kParmValueAttr;  ///< "value"
 
+  /// An empty list.
   VqeGetParametersHelper();
   ~VqeGetParametersHelper() override;
 
-  /// Replaces the list of (name, value).
+  /// Replaces the list of (name, value), each of which becomes a "parameter", also when both are empty.
   void SetParameters(const std::vector<std::pair<I18NString, I18NString>>& parameters);
 
   /// A copy of the list, in the order set or read.

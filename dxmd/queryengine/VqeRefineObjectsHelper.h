@@ -17,6 +17,7 @@
 /// A helper is used by one thread at a time.
 class DXMD_API VqeRefineObjectsHelper : public QFDXCommandHelper {
  public:
+  /// @param modelPath  the published model to refine: the text of "model" in "source".
   explicit VqeRefineObjectsHelper(const I18NString& modelPath);
   ~VqeRefineObjectsHelper() override;
 

@@ -15,6 +15,15 @@
 /// Passwords are written in clear text. Nothing is read. A helper is used by one thread at a time.
 class DXMD_API VqeTestConnectionHelper : public ActionHandlerBase {
  public:
+  /// What to test with. Each text becomes the "value" of an element in the inner "connection".
+  /// @param dataSourceName    "dataSource"
+  /// @param connectionName    "name"; left out when empty
+  /// @param signonName        "name" in "signon"; both left out when empty
+  /// @param userName          "username"; left out when empty
+  /// @param password          "password"; left out when empty
+  /// @param connectionString  "connectionString"
+  /// @param cubePassword      "cubePassword"; left out when empty
+  /// @param nameSpace         "namespace"; left out when empty
   VqeTestConnectionHelper(const I18NString& dataSourceName, const I18NString& connectionName,
                           const I18NString& signonName, const I18NString& userName, const I18NString& password,
                           const I18NString& connectionString, const I18NString& cubePassword,

@@ -10,6 +10,7 @@
 /// The command that closes the service's connections: an empty "closeConnections" in the envelope.
 class DXMD_API QFCloseConnectionsCommandHelper : public QFCommandHelper {
  public:
+  /// A command with the default identifiers, without a connection.
   QFCloseConnectionsCommandHelper();
   ~QFCloseConnectionsCommandHelper() override;
 

@@ -16,23 +16,32 @@
 class DXMD_API QFCommandHelper : public ActionHandlerBase {
  public:
   /// The identifiers of a command.
-  enum EProperty : int { kPropertyCommandID = 1, kPropertyRequestID = 2 };
+  enum EProperty : int {
+    kPropertyCommandID = 1,  ///< "commandID": which command this is
+    kPropertyRequestID = 2   ///< "requestID": which request it belongs to, so that it can be cancelled
+  };
 
   /// A command without a model path.
   QFCommandHelper();
+
+  /// A command on the model at that path, with the default identifiers and without a connection.
   explicit QFCommandHelper(const I18NString& modelPath);
   ~QFCommandHelper() override;
 
-  /// Replaces an identifier; any other property is ignored.
+  /// Replaces an identifier, which is written also when empty; any other property is ignored.
   void SetProperty(EProperty property, const I18NString& value);
 
-  /// The identifiers of a command that sets none: "DXCommand" and "DXRequest".
+  /// The "commandID" of a command that sets none: "DXCommand".
   static const I18NString& GetDefaultDXCommandID();
+
+  /// The "requestID" of a command that sets none: "DXRequest".
   static const I18NString& GetDefaultDXRequestID();
 
+  /// The model path given at construction; empty without one. Valid as long as the command.
   const I18NString& GetModelPath() const { return m_modelPath; }
 
-  /// Keeps a handle to a "connection" element, which is copied into the envelope at each `Make`.
+  /// Keeps a handle to a "connection" element, such as a QsApiConnectHelper makes, which is copied into the envelope at
+  /// each `Make`. A null one clears it.
   void SetConnection(TRNIDOM_Element& connection);
 
   /// Places a copy of a connection into a "command" element that is already built: as its first child, or in place of
@@ -50,7 +59,11 @@ class DXMD_API QFCommandHelper : public ActionHandlerBase {
   /// Finds or creates the child "reportName" of the parent that holds the name; "default" stands for "DXRequest".
   void MakeReportName(TRNIDOM_Element& parent, const I18NString& name) const;
 
-  /// Builds the envelope around the command proper, which must belong to `doc`, and hands it back in `out`.
+  /// Builds the envelope around the command proper and hands it back: what every command's `doMake` ends with.
+  /// @param doc    where the envelope is created.
+  /// @param out    refers to the envelope, "command", afterwards.
+  /// @param inner  the command proper, which must belong to `doc`; it is moved into the envelope.
+  /// @throws TRNIDOM_DOMException when the command proper is null or of another document.
   virtual void Incorporate(TRNIDOM_Document& doc, TRNIDOM_Element& out, TRNIDOM_Element& inner) const;
 
  private:

@@ -18,10 +18,11 @@
 /// proper, and the query feedbacks that the caller wants, when there are any.
 class DXMD_API QFDXCommandHelper : public QFCommandHelper {
  public:
+  /// @param modelPath  the model that the command works on: the text of "model" in "source".
   explicit QFDXCommandHelper(const I18NString& modelPath);
   ~QFDXCommandHelper() override;
 
-  /// Appends a query feedback; duplicates are kept.
+  /// Appends a query feedback that the service is to report back; duplicates are kept.
   void AddQueryFeedback(QFExecuteCommandHelper::EQueryFeedback feedback);
 
   /// Sets the query locale; null clears it. The caller keeps it alive until the last `Make` has returned.

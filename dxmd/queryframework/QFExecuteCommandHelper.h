@@ -27,55 +27,61 @@ class DXMD_API QFExecuteCommandHelper : public QFCommandHelper {
  public:
   /// The values of the hint "executionOptimization".
   enum EQueryOptimization : int {
-    kQueryOptimizationFirstRow = 1,
-    kQueryOptimizationAllRows = 2,
-    kQueryOptimizationIncremental = 3
+    kQueryOptimizationFirstRow = 1,    ///< "firstRow"
+    kQueryOptimizationAllRows = 2,     ///< "allRows"
+    kQueryOptimizationIncremental = 3  ///< "incremental"
   };
 
   /// What the service can report about a query; 0 is none of them.
   enum EQueryFeedback : int {
-    kQueryFeedbackUnknown = 0,
-    kQueryFeedbackNativeCommandText = 1,
-    kQueryFeedbackVeltraCommandText = 2,
-    kQueryFeedbackConnections = 3,
-    kQueryFeedbackColumnList = 4,
-    kQueryFeedbackExecutionPlan = 5,
-    kQueryFeedbackTableType = 6
+    kQueryFeedbackUnknown = 0,            ///< no kind of feedback; written as "unknown"
+    kQueryFeedbackNativeCommandText = 1,  ///< "nativeCommandText": the command as the database gets it
+    kQueryFeedbackVeltraCommandText = 2,  ///< "VeltraCommandText": the command in the engine's own language
+    kQueryFeedbackConnections = 3,        ///< "connections": what `QFResponseDomHelper::GetResponseDataSources` reads
+    kQueryFeedbackColumnList = 4,         ///< "columnList": what `QFResponseDomHelper::GetColumnList` reads
+    kQueryFeedbackExecutionPlan = 5,      ///< "executionPlan"
+    kQueryFeedbackTableType = 6           ///< "tableType"
   };
 
   /// The quality-of-service severity from which feedback is wanted; 0 is unset and writes no attribute.
   enum EQOSSeverity : int {
-    kQOSSeverityUnset = 0,
-    kQOSSeverityError = 1,
-    kQOSSeverityWarning = 2,
-    kQOSSeverityKeyTransformation = 3,
-    kQOSSeverityInformation = 4
+    kQOSSeverityUnset = 0,              ///< no "severityLevel" is written
+    kQOSSeverityError = 1,              ///< "error"
+    kQOSSeverityWarning = 2,            ///< "warning"
+    kQOSSeverityKeyTransformation = 3,  ///< "keyTransformation"
+    kQOSSeverityInformation = 4         ///< "information"
   };
 
   /// Hints for the whole request; any other value writes nothing.
   enum ERequestHint : int {
-    kRequestHintNoDataMode = 1,
-    kRequestHintDesignMode = 2,
-    kRequestHintExecutionOptimization = 3,
-    kRequestHintQueryProcessing = 4
+    kRequestHintNoDataMode = 1,             ///< "noDataMode", with "true" or "false" in "enabled"
+    kRequestHintDesignMode = 2,             ///< "designMode", with "true" or "false" in "enabled"
+    kRequestHintExecutionOptimization = 3,  ///< "executionOptimization", with an EQueryOptimization's text in "value"
+    kRequestHintQueryProcessing = 4         ///< "queryProcessing", with any text in "value"
   };
 
-  /// Names reserved for result templates; nothing writes them.
-  static const I18NString STR_resultTemplate;
-  static const I18NString STR_listResult;
-  static const I18NString STR_details;
+  // Names reserved for result templates.
+  static const I18NString STR_resultTemplate;  ///< "resultTemplate"; nothing writes it
+  static const I18NString STR_listResult;      ///< "listResult"; nothing writes it
+  static const I18NString STR_details;         ///< "details"; nothing writes it
 
   /// @param modelPath  the model that the queries read from.
-  /// @param locale     the expression locale; may be null. The caller keeps it alive until the last `Make` has
-  /// returned.
+  /// @param locale     the expression locale, or null for none. The caller keeps it alive until the last `Make` has
+  ///                   returned.
   QFExecuteCommandHelper(const I18NString& modelPath, const I18NLocale* locale);
   ~QFExecuteCommandHelper() override;
 
-  /// Each appends a query and returns it for the caller to fill.
+  /// Appends a query and returns it for the caller to fill. It stays owned by the command.
   QFQueryHelper* AddQuery(const I18NString& name);
+
+  /// Appends a query over the join of two queries and returns it for the caller to fill. It stays owned by the command.
+  /// The arguments are those of QFJoinQueryHelper.
   QFJoinQueryHelper* AddJoinQuery(const I18NString& name, const I18NString& leftQueryRef,
                                   const I18NString& leftCardinality, const I18NString& rightQueryRef,
                                   const I18NString& rightCardinality, const I18NString& joinFilterExpression);
+
+  /// Appends a query over two queries combined by a set operation and returns it for the caller to fill. It stays owned
+  /// by the command. The arguments are those of QFModelSetQueryHelper.
   QFModelSetQueryHelper* AddModelSetQuery(const I18NString& name, std::vector<I18NString> projection,
                                           const I18NString& setOperation, const I18NString& duplicates);
 
@@ -88,14 +94,21 @@ class DXMD_API QFExecuteCommandHelper : public QFCommandHelper {
 
   /// Appends a query feedback; duplicates are kept.
   void AddQueryFeedback(EQueryFeedback feedback);
+
+  /// Sets the severity from which feedback is wanted, the "severityLevel" of "queryFeedback"; unset at first.
   void SetQOSSeverityLevel(EQOSSeverity level);
 
-  /// The XML texts; "unknown" for any value without one.
+  /// The text that the hint "executionOptimization" takes; "unknown" for any other value.
   static const I18NString& ToString(EQueryOptimization optimization);
+
+  /// The name of a query feedback in commands and replies; "unknown" for any value without one.
   static const I18NString& ToString(EQueryFeedback feedback);
+
+  /// The text of "severityLevel"; "unknown" for any value without one.
   static const I18NString& ToString(EQOSSeverity severity);
 
-  /// 0 and 1 mean error, 2 warning, 3 key transformation, everything above information.
+  /// The severity that a nag level stands for: 0 and 1 mean error, 2 warning, 3 key transformation, all above
+  /// information.
   static EQOSSeverity ConvertNagLevel2SeverityLevel(unsigned long nagLevel);
 
  protected:

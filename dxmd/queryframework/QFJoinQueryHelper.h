@@ -7,9 +7,16 @@
 #include <dxmd/core/Export.h>
 #include <dxmd/queryframework/QFQueryHelper.h>
 
-/// A query whose source joins two queries.
+/// A query whose source joins two queries of the same command, which creates and owns it:
+/// `QFExecuteCommandHelper::AddJoinQuery`.
 class DXMD_API QFJoinQueryHelper : public QFQueryHelper {
  public:
+  /// @param name                  the query's own name.
+  /// @param leftQueryRef          name of the left operand's query: "refQuery".
+  /// @param leftCardinality       "cardinality" of the left operand, such as "0:N"; any text.
+  /// @param rightQueryRef         name of the right operand's query.
+  /// @param rightCardinality      "cardinality" of the right operand.
+  /// @param joinFilterExpression  on what to join: the text of "filterExpression".
   QFJoinQueryHelper(const I18NString& name, const I18NString& leftQueryRef, const I18NString& leftCardinality,
                     const I18NString& rightQueryRef, const I18NString& rightCardinality,
                     const I18NString& joinFilterExpression);

@@ -10,8 +10,13 @@
 #include <dxmd/queryframework/QFQueryHelper.h>
 
 /// A query whose source combines two queries by a set operation. The two must be named "leftQuery" and "rightQuery".
+/// `QFExecuteCommandHelper::AddModelSetQuery` creates and owns it.
 class DXMD_API QFModelSetQueryHelper : public QFQueryHelper {
  public:
+  /// @param name          the query's own name.
+  /// @param projection    names of the query items to keep, in order.
+  /// @param setOperation  the operation: "setOperation"; any text.
+  /// @param duplicates    what becomes of equal rows: "duplicates"; any text.
   QFModelSetQueryHelper(const I18NString& name, std::vector<I18NString> projection, const I18NString& setOperation,
                         const I18NString& duplicates);
   ~QFModelSetQueryHelper() override;

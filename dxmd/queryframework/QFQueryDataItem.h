@@ -5,35 +5,43 @@
 
 #include <dxmd/core/Export.h>
 
-/// One data item of a query's selection. The caller completes the record that `QFQueryHelper::AddDataItem` returns.
+/// One data item of a query's selection: a "dataItem" element. The caller completes the record that
+/// `QFQueryHelper::AddDataItem` returns.
 struct DXMD_API QFQueryDataItem {
   /// How values are aggregated; 0 is unset and writes no attribute.
   enum EAggregate : int {
-    kAggregateUnknown = 0,
-    kAggregateNone = 1,
-    kAggregateAutomatic = 2,
-    kAggregateSummarize = 3,
-    kAggregateTotal = 4,
-    kAggregateMinimum = 5,
-    kAggregateMaximum = 6,
-    kAggregateAverage = 7,
-    kAggregateCount = 8,
-    kAggregateCalculated = 9
+    kAggregateUnknown = 0,    ///< no attribute is written
+    kAggregateNone = 1,       ///< "none"
+    kAggregateAutomatic = 2,  ///< "automatic"
+    kAggregateSummarize = 3,  ///< "summarize"
+    kAggregateTotal = 4,      ///< "total"
+    kAggregateMinimum = 5,    ///< "minimum"
+    kAggregateMaximum = 6,    ///< "maximum"
+    kAggregateAverage = 7,    ///< "average"
+    kAggregateCount = 8,      ///< "count"
+    kAggregateCalculated = 9  ///< "calculated"
   };
 
   /// How rows are sorted; 0 is unset and writes no attribute.
-  enum ESort : int { kSortUnknown = 0, kSortNone = 1, kSortAscending = 2, kSortDescending = 3 };
+  enum ESort : int {
+    kSortUnknown = 0,    ///< no attribute is written
+    kSortNone = 1,       ///< "none"
+    kSortAscending = 2,  ///< "ascending"
+    kSortDescending = 3  ///< "descending"
+  };
 
-  /// The XML texts; "unknown" for any value without one.
+  /// The text of "aggregate" and "rollupAggregate"; "unknown" for any value without one.
   static const I18NString& ToString(EAggregate aggregate);
+
+  /// The text of "sort"; "unknown" for any value without one.
   static const I18NString& ToString(ESort sort);
 
-  I18NString name;  ///< unique within its query when added
-  I18NString expression;
-  I18NString tag;  ///< written unless empty
-  ESort sort = kSortUnknown;
-  EAggregate aggregate = kAggregateUnknown;
-  EAggregate rollupAggregate = kAggregateUnknown;
+  I18NString name;                                 ///< "name", unique within its query when added
+  I18NString expression;                           ///< text of "expression", written also when empty
+  I18NString tag;                                  ///< text of "tag"; written unless empty
+  ESort sort = kSortUnknown;                       ///< "sort"
+  EAggregate aggregate = kAggregateUnknown;        ///< "aggregate", of the item's own values
+  EAggregate rollupAggregate = kAggregateUnknown;  ///< "rollupAggregate", of values already aggregated
 };
 
 #endif

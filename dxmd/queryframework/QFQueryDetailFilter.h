@@ -5,16 +5,21 @@
 
 #include <dxmd/core/Export.h>
 
-/// One detail filter of a query.
+/// One detail filter of a query: a "filter" element. `QFQueryHelper::AddDetailFilter` makes and owns it.
 struct DXMD_API QFQueryDetailFilter {
   /// Whether the filter applies.
-  enum EUse : int { kUseUnknown = 0, kUseOptional = 1, kUseRequired = 2, kUseProhibited = 3 };
+  enum EUse : int {
+    kUseUnknown = 0,    ///< written as "unknown"
+    kUseOptional = 1,   ///< "optional"
+    kUseRequired = 2,   ///< "required"
+    kUseProhibited = 3  ///< "prohibited"
+  };
 
-  /// The XML text; "unknown" for any value without one.
+  /// The text of "use"; "unknown" for any value without one.
   static const I18NString& ToString(EUse use);
 
-  I18NString expression;
-  EUse use = kUseUnknown;
+  I18NString expression;   ///< text of "filterExpression", written also when empty
+  EUse use = kUseUnknown;  ///< "use", always written
 };
 
 #endif

@@ -22,42 +22,50 @@ class DXMD_API QFQueryHelper : public ActionHandlerBase {
  public:
   /// Advice to the query engine. Every query carries "avoidZeroDiv" = "true" unless the caller overwrites it.
   enum EQueryHint : int {
-    kQueryHintAvoidZeroDiv = 1,
-    kQueryHintAutoSort = 2,
-    kQueryHintMeasureRefiner = 3,
-    kQueryHintMaxRowsRetrieved = 4
+    kQueryHintAvoidZeroDiv = 1,     ///< "avoidZeroDiv": no division by zero
+    kQueryHintAutoSort = 2,         ///< "autoSort"
+    kQueryHintMeasureRefiner = 3,   ///< "measureRefiner"
+    kQueryHintMaxRowsRetrieved = 4  ///< "maxRowsRetrieved": how many rows at most
   };
 
   /// The hint's element name; "unknown" for any other value.
   static const I18NString& ToString(EQueryHint hint);
 
+  /// A query of that name, which other queries and the result definition refer to. It reads from the model.
   explicit QFQueryHelper(const I18NString& name);
   ~QFQueryHelper() override;
 
+  /// The query's name; valid as long as the query.
   const I18NString& GetName() const { return m_name; }
 
-  /// Whether the service summarises by itself; off at first.
+  /// Whether the service summarises by itself, the "autoSummary" of "selection": off for 0, as at first, else on.
   void SetAutoSummary(int on);
 
-  /// Appends a data item whose name is made unique among those present, and returns it for the caller to complete.
-  /// A caller that renames an item afterwards sees to its uniqueness itself; later additions respect the new name.
+  /// Appends a data item whose name is made unique among those present, as MakeUnique does, and returns it for the
+  /// caller to complete. It stays owned by the query. A caller that renames an item afterwards sees to its uniqueness
+  /// itself; later additions respect the new name.
   QFQueryDataItem* AddDataItem(const I18NString& name, const I18NString& expression);
+
+  /// The data items in the order added; they stay owned by the query.
   const std::vector<QFQueryDataItem*>& GetDataItems() const { return m_dataItems.items(); }
 
-  /// Appends a detail filter and returns it.
+  /// Appends a detail filter and returns it. It stays owned by the query.
   QFQueryDetailFilter* AddDetailFilter(const I18NString& expression, QFQueryDetailFilter::EUse use);
+
+  /// The detail filters in the order added; they stay owned by the query.
   const std::vector<QFQueryDetailFilter*>& GetDetailFilters() const { return m_detailFilters.items(); }
 
-  /// Sets a hint, replacing its former value.
+  /// Sets a hint, replacing its former value: the "value" of the element that the hint is named after.
   void AddHint(EQueryHint hint, const I18NString& value);
 
   /// Names the query that this one reads from; empty means the model.
   void SetQueryRef(const I18NString& queryName);
 
+  /// Hands back a new "query". Public for the command that owns the query.
   void doMake(TRNIDOM_Document& doc, TRNIDOM_Element& element) const override;
 
  protected:
-  /// Writes "source" under "query".
+  /// Writes "source" under "query": "model", or "queryRef" when a query reference is set.
   virtual void SetSource(TRNIDOM_Element& query) const;
 
  private:
@@ -78,8 +86,9 @@ class DXMD_API QFQueryHelper : public ActionHandlerBase {
   I18NString m_queryRef;
 };
 
-/// Makes a name that no item bears: the name itself, else the name followed by 1, 2 and so on. After as many attempts
-/// as there are items the last candidate is taken as it is.
+/// Makes a name that no item bears, in `result`: the name itself, else the name followed by 1, 2 and so on. After as
+/// many attempts as there are items the last candidate is taken as it is.
+/// @relates QFQueryHelper
 DXMD_API void MakeUnique(const std::vector<QFQueryDataItem*>& items, const I18NString& name, I18NString& result);
 
 #endif

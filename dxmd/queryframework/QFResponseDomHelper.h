@@ -20,27 +20,28 @@ class DXMD_API QFResponseDomHelper : public ActionHandlerBase {
  public:
   /// A connection that the query used; texts are empty where the reply has none.
   struct DataSource {
-    I18NString connection;
-    I18NString catalog;
-    I18NString schema;
-    I18NString modelDSName;
+    I18NString connection;   ///< "value" of the "connection" element
+    I18NString catalog;      ///< its "catalog"
+    I18NString schema;       ///< its "schema"
+    I18NString modelDSName;  ///< its "modelDSName": the data source's name in the model
   };
 
-  /// The properties of a column.
+  /// The properties of a column, each an attribute of its element in "columnList".
   enum EColumnProp : int {
-    kColumnPropName = 1,
-    kColumnPropSqlName = 2,
-    kColumnPropType = 3,
-    kColumnPropScale = 4,
-    kColumnPropLength = 5,
-    kColumnPropPrecision = 6,
-    kColumnPropNullsAllowed = 7,
-    kColumnPropCollationSequenceName = 8,
-    kColumnPropCollationSequenceLevel = 9,
-    kColumnPropOriginalCollationSequenceName = 10,
-    kColumnPropOriginalEncodingName = 11
+    kColumnPropName = 1,                            ///< "name"
+    kColumnPropSqlName = 2,                         ///< "sqlName"
+    kColumnPropType = 3,                            ///< "type"
+    kColumnPropScale = 4,                           ///< "scale"
+    kColumnPropLength = 5,                          ///< "length"
+    kColumnPropPrecision = 6,                       ///< "precision"
+    kColumnPropNullsAllowed = 7,                    ///< "nullsAllowed"
+    kColumnPropCollationSequenceName = 8,           ///< "collationSequenceName"
+    kColumnPropCollationSequenceLevel = 9,          ///< "collationSequenceLevel"
+    kColumnPropOriginalCollationSequenceName = 10,  ///< "originalCollationSequenceName"
+    kColumnPropOriginalEncodingName = 11            ///< "originalEncodingName"
   };
 
+  /// A reply without anything until one is taken.
   QFResponseDomHelper();
   ~QFResponseDomHelper() override;
 

@@ -14,12 +14,13 @@
 /// Written: build and hand back, in the command envelope.
 class DXMD_API QFUpdateCommandHelper : public QFCommandHelper {
  public:
-  /// An update subject.
+  /// An update subject: an "updateSubject" element.
   struct UpdateSubj {
-    I18NString name;
-    I18NString text;
+    I18NString name;  ///< "name"
+    I18NString text;  ///< text of the element
   };
 
+  /// @param modelPath  the model to update: the text of "modelPath".
   explicit QFUpdateCommandHelper(const I18NString& modelPath);
   ~QFUpdateCommandHelper() override;
 

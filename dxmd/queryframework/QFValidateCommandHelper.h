@@ -16,6 +16,7 @@
 /// null element, or one without a first child, gives an empty "validate".
 class DXMD_API QFValidateCommandHelper : public QFCommandHelper {
  public:
+  /// A command with the default identifiers, without a connection.
   QFValidateCommandHelper();
   ~QFValidateCommandHelper() override;
 
