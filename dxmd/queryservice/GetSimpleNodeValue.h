@@ -6,6 +6,9 @@
 
 #include <dxmd/core/Export.h>
 
+/// @file
+/// How the readers of the query service's messages read a text.
+
 /// Reads the text of a child element: the node value of its first child, whatever that is. Of several children of that
 /// name the first that is not empty counts; descendants are not searched.
 /// @return whether there is one; `value` is untouched otherwise.

@@ -28,31 +28,52 @@ class DXMD_API QsApiConnectHelper : public ActionHandlerBase {
   QsApiConnectHelper();
   ~QsApiConnectHelper() override;
 
+  /// Sets the property "namespace", which the user signs on to.
   void SetNamespace(const I18NString& name);
+
+  /// Sets the property "username".
   void SetUserName(const I18NString& name);
+
+  /// Sets the property "password", written as plain text.
   void SetPassword(const I18NString& password);
+
+  /// Sets the property "VAMPassport", the passport of a user who has signed on; it is as secret as a password.
   void SetPassport(const I18NString& passport);
+
+  /// Sets the property "contentManagerURI", where the content manager is.
   void SetContentManagerURI(const I18NString& uri);
+
+  /// Sets the property "runLocale", the locale of data, to the locale's name.
   void SetRunLocale(const I18NLocale& locale);
+
+  /// Sets the property "productLocale", the locale of messages, to the locale's name.
   void SetProductLocale(const I18NLocale& locale);
 
-  /// Writes the identifier as `MakeSessionID` does.
+  /// Sets the property "sessionID" to what `MakeSessionID` makes of the identifier.
   void SetSessionID(const unsigned long& id);
 
-  /// The model path names the data source.
+  /// Sets the property "dataSource" to the model path.
   void SetModelPath(const I18NString& path);
 
-  /// Sets any property.
+  /// Sets any property, an element named after the key with the value in "value"; it replaces what a setter set under
+  /// the same key.
   ///
   /// A key that is no element name makes `Make` throw TRNIDOM_DOMException, except with an empty value, which is not
   /// written.
   void AddProperty(const I18NString& key, const I18NString& value);
 
+  /// Sets the flag "RETAINCONNECTION", whether the service keeps the connection open, to "TRUE" or "FALSE"; not written
+  /// unless set.
   void SetRetainConnection(bool retain);
+
+  /// Sets the flag "disableAuthentication", whether the service skips signing on, to "TRUE" or "FALSE"; not written
+  /// unless set.
   void SetDisableAuthentication(bool disable);
+
+  /// Sets the "dataSourceType" of the connection, written also when empty; at first "QueryFrameworkService".
   void SetProviderType(const I18NString& type);
 
-  /// Appends a model: of kind "bmeModel" when `bme`, else "Model".
+  /// Appends a model, an inner "connection": of kind "bmeModel" when `bme`, else "Model".
   void AddModel(const I18NString& name, bool bme);
 
   /// The identifier of the service this library speaks for: "DX".
@@ -62,8 +83,12 @@ class DXMD_API QsApiConnectHelper : public ActionHandlerBase {
   /// 4294967295 gives "-1".
   static I18NString MakeSessionID(const unsigned long& id);
 
-  /// Updates passport and locales in a connection that is already built. An empty passport and null locales leave
-  /// theirs untouched; with nothing to update the connection may be null.
+  /// Updates passport and locales in a connection that is already built; with nothing to update it may be null.
+  /// @param connection     a "connection" element; its children "VAMPassport", "productLocale" and "runLocale" are set,
+  ///                       and created where missing.
+  /// @param passport       the new passport; empty leaves the present one.
+  /// @param productLocale  the new locale of messages; null leaves the present one.
+  /// @param runLocale      the new locale of the data; null leaves the present one.
   /// @throws TRNIDOM_DOMException for a null connection.
   static void RefreshRequest(TRNIDOM_Element& connection, const I18NString& passport, const I18NLocale* productLocale,
                              const I18NLocale* runLocale);

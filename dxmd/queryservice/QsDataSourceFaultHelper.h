@@ -19,54 +19,75 @@ class DXMD_API QsDataSourceFaultHelper : public ActionHandlerBase {
  public:
   /// A sign-on of a connection.
   struct DXMD_API SignonInfo {
-    I18NString name;
-    I18NString searchPath;
+    I18NString name;        ///< "value" of the first "name" below; empty without one
+    I18NString searchPath;  ///< "value" of the first "searchPath" below; empty without one
   };
 
   /// A connection of a data source. It owns its sign-ons, each made with `new`, and deletes them.
   struct DXMD_API ConnectionInfo {
+    /// An empty record.
     ConnectionInfo() = default;
+
+    /// Takes over the texts and sign-ons.
     ConnectionInfo(ConnectionInfo&&) = default;
+
+    /// Takes over the texts and swaps the sign-ons.
     ConnectionInfo& operator=(ConnectionInfo&& other) noexcept;
     ~ConnectionInfo();
 
-    I18NString name;
-    I18NString searchPath;        ///< the connection string where the fault gives one, else the search path
-    I18NString connectionString;  ///< never read from a fault
-    std::vector<SignonInfo*> signons;
+    I18NString name;                   ///< "value" of the first "name" below; empty without one
+    I18NString searchPath;             ///< the connection string where the fault gives one, else the search path
+    I18NString connectionString;       ///< never read from a fault
+    std::vector<SignonInfo*> signons;  ///< of each "signon" below, in document order; owned by this record
   };
 
   /// A data source. It owns its connections, each made with `new`, and deletes them.
   struct DXMD_API DataSourceInfo {
+    /// An empty record.
     DataSourceInfo() = default;
+
+    /// Takes over the texts and connections.
     DataSourceInfo(DataSourceInfo&&) = default;
+
+    /// Takes over the texts and swaps the connections.
     DataSourceInfo& operator=(DataSourceInfo&& other) noexcept;
     ~DataSourceInfo();
 
-    I18NString name;
-    I18NString type;
-    std::vector<ConnectionInfo*> connections;
+    I18NString name;                           ///< the name that was asked for, once a data source has it
+    I18NString type;                           ///< "value" of the first "type" below
+    std::vector<ConnectionInfo*> connections;  ///< of each "connection" below, in document order; owned by this record
 
     /// The first connection of that name; the last of all when none has it, null when there are none. The record keeps
     /// owning it.
     ConnectionInfo* GetConnectionInfo(const I18NString& connectionName) const;
   };
 
+  /// A fault without anything until one is taken.
   QsDataSourceFaultHelper();
   ~QsDataSourceFaultHelper() override;
 
-  /// The texts of the fault last taken; one that it lacks is as the fault before it had it, at first empty.
+  // Each of these texts is valid as long as the helper, and changes with the next `Take`.
+
+  /// The text of the first "faultcode"; where the fault has none, that of the fault before it, at first empty.
   const I18NString& GetFaultCode() const { return m_faultCode; }
+
+  /// The text of the first "faultSubcode", in the same way.
   const I18NString& GetFaultSubCode() const { return m_faultSubCode; }
+
+  /// The text of the first "faultstring", for people, in the same way.
   const I18NString& GetFaultString() const { return m_faultString; }
+
+  /// The text of the first "faultSubstring", for people, in the same way.
   const I18NString& GetFaultSubString() const { return m_faultSubString; }
+
+  /// The attribute "value" of the first "faultDataSource", in the same way.
   const I18NString& GetFaultDataSourceName() const { return m_faultDataSourceName; }
 
-  /// The connection at fault, or null. Read at the first call, owned by the helper, valid until the next `Take` or
-  /// `Cleanup`.
+  /// The connection at fault, from the first "faultConnection"; null without one. Read at the first call, owned by the
+  /// helper, valid until the next `Take` or `Cleanup`.
   ConnectionInfo* GetFaultConnection();
 
-  /// The sign-on at fault, in the same way.
+  /// The sign-on at fault, from the first "faultSignon", in the same way.
   SignonInfo* GetFaultSignon();
 
   /// Fills in the description of the data sources of that name; connections are added to those that `info` has.
@@ -78,6 +99,7 @@ class DXMD_API QsDataSourceFaultHelper : public ActionHandlerBase {
   void Cleanup();
 
  protected:
+  /// Reads the five texts and forgets the connection and sign-on of the fault before. A null element has none.
   void doTake(TRNIDOM_Element& elem) override;
 
  private:

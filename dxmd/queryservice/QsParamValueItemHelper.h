@@ -18,17 +18,22 @@
 class DXMD_API QsParamValueItemHelper : public ActionHandlerBase {
  public:
   /// The kinds of items.
-  enum EValueItem : int { kValueItemSimple = 1, kValueItemRange = 2, kValueItemHierarchy = 3, kValueItemNull = 4 };
+  enum EValueItem : int {
+    kValueItemSimple = 1,     ///< a QsParamValueItemSimpleHelper
+    kValueItemRange = 2,      ///< a QsParamValueItemRangeHelper
+    kValueItemHierarchy = 3,  ///< a QsParamValueItemHierarchyHelper
+    kValueItemNull = 4        ///< a QsParamValueItemNullHelper
+  };
 
   /// The kinds of items on the wire, where a range goes by the bounds it has.
   enum ETarvoItemType : int {
-    kTarvoItemUnknown = 0,
-    kTarvoItemSimple = 1,
-    kTarvoItemBoundRange = 2,
-    kTarvoItemUnboundedStart = 3,
-    kTarvoItemUnboundedEnd = 4,
-    kTarvoItemHierarchical = 5,
-    kTarvoItemNil = 6
+    kTarvoItemUnknown = 0,         ///< any other "xsi:type"
+    kTarvoItemSimple = 1,          ///< "bus:simpleParmValueItem"
+    kTarvoItemBoundRange = 2,      ///< "bus:boundRangeParmValueItem": a range with both bounds
+    kTarvoItemUnboundedStart = 3,  ///< "bus:unboundedStartParmValueItem": a range with an end only
+    kTarvoItemUnboundedEnd = 4,    ///< "bus:unboundedEndParmValueItem": a range without an end
+    kTarvoItemHierarchical = 5,    ///< "bus:hierarchicalParmValueItem"
+    kTarvoItemNil = 6              ///< "xsi:nil": no value
   };
 
   /// The type's text in "xsi:type"; "unknown" for any other value.
@@ -39,6 +44,7 @@ class DXMD_API QsParamValueItemHelper : public ActionHandlerBase {
   /// @throws TRNAssertError for any other type.
   static QsParamValueItemHelper* Create(const I18NString& xsiType, TRNIDOM_Element& element);
 
+  /// @param inclusive  non-zero when the value itself belongs to the range it bounds.
   explicit QsParamValueItemHelper(int inclusive);
   ~QsParamValueItemHelper() override;
 
@@ -49,16 +55,20 @@ class DXMD_API QsParamValueItemHelper : public ActionHandlerBase {
   /// @throws TRNAssertError when the element is null. Its argument is spelt as the assertion's text has it.
   void doTake(TRNIDOM_Element& elmValueItem) override;
 
+  /// The kind of item, which is the class: what a caller may cast to.
   virtual EValueItem GetType() const = 0;
 
-  /// The text of "xsi:type".
+  /// The text of "xsi:type" as the item would be written now.
   virtual const I18NString& GetTarvoType() const = 0;
 
   /// Writes the value's properties into an element: "inclusive".
   virtual void makeProperties(TRNIDOM_Element& target) const;
 
-  /// Whether the value itself belongs to the range it bounds.
+  /// Non-zero when the value itself belongs to the range it bounds, as it does at first and unless a received item has
+  /// "false" in "inclusive".
   int IsInclusive() const { return m_inclusive; }
+
+  /// Sets what "inclusive" says: "false" for 0, else "true".
   void SetInclusive(int inclusive) { m_inclusive = inclusive; }
 
  protected:

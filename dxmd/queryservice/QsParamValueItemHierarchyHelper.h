@@ -19,6 +19,7 @@
 /// the item is written without them.
 class DXMD_API QsParamValueItemHierarchyHelper : public QsParamValueItemHelper {
  public:
+  /// An item without value and sub-nodes.
   QsParamValueItemHierarchyHelper();
   ~QsParamValueItemHierarchyHelper() override;
 
@@ -26,7 +27,9 @@ class DXMD_API QsParamValueItemHierarchyHelper : public QsParamValueItemHelper {
   /// the first value among its sub-nodes.
   QsParamValueItemSimpleHelper* GetValue();
 
-  /// Replaces the value and returns the new one.
+  /// Replaces the value and returns the new one, owned by the item.
+  /// @param use        the value.
+  /// @param inclusive  non-zero when the value itself belongs to the range it bounds.
   QsParamValueItemSimpleHelper* SetValue(const I18NString& use, int inclusive);
 
   /// The sub-nodes in order; owned by the item. They are read from the item taken as long as there are none.
@@ -38,7 +41,10 @@ class DXMD_API QsParamValueItemHierarchyHelper : public QsParamValueItemHelper {
   /// Writes "value", if there is one, and "subNodes", which is marked "xsi:nil" when there are none.
   void doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const override;
 
+  /// `kValueItemHierarchy`.
   EValueItem GetType() const override { return kValueItemHierarchy; }
+
+  /// "bus:hierarchicalParmValueItem".
   const I18NString& GetTarvoType() const override { return ToString(kTarvoItemHierarchical); }
 
  private:

@@ -11,12 +11,17 @@
 /// The null value: an "item" that carries nothing but "xsi:nil" = "true".
 class DXMD_API QsParamValueItemNullHelper : public QsParamValueItemHelper {
  public:
+  /// An item that says that there is no value.
   QsParamValueItemNullHelper();
   ~QsParamValueItemNullHelper() override;
 
+  /// Hands back a new "item" without "xsi:type".
   void doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const override;
 
+  /// `kValueItemNull`.
   EValueItem GetType() const override { return kValueItemNull; }
+
+  /// "xsi:nil", which is no type: the item is marked by an attribute of that name instead.
   const I18NString& GetTarvoType() const override { return ToString(kTarvoItemNil); }
 };
 

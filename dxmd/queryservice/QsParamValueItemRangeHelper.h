@@ -17,24 +17,32 @@
 /// told, without it.
 class DXMD_API QsParamValueItemRangeHelper : public QsParamValueItemHelper {
  public:
+  /// A range without bounds.
   QsParamValueItemRangeHelper();
   ~QsParamValueItemRangeHelper() override;
 
-  /// The bounds, or null; owned by the range and valid until set again. A bound goes by "bus:start" or "start",
-  /// "bus:end" or "end".
+  /// The lower bound, or null; owned by the range and valid until set again. It is read from the first "bus:start" of
+  /// the item taken, else from the first "start", at any depth.
   QsParamValueItemSimpleHelper* GetStart();
+
+  /// The upper bound, from "bus:end" or "end", in the same way.
   QsParamValueItemSimpleHelper* GetEnd();
 
-  /// Replace a bound and return the new one.
+  /// Replaces the lower bound and returns the new one, owned by the range.
+  /// @param use        the bound's value.
+  /// @param inclusive  non-zero when that value itself belongs to the range.
   QsParamValueItemSimpleHelper* SetStart(const I18NString& use, int inclusive);
+
+  /// Replaces the upper bound in the same way.
   QsParamValueItemSimpleHelper* SetEnd(const I18NString& use, int inclusive);
 
   /// Writes the bounds that are there; the range's own inclusive flag is not written.
   void doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const override;
 
+  /// `kValueItemRange`.
   EValueItem GetType() const override { return kValueItemRange; }
 
-  /// Without an end, "bus:unboundedEndParmValueItem", whether there is a start or not.
+  /// By the bounds set or read so far. Without an end, "bus:unboundedEndParmValueItem", with or without a start.
   const I18NString& GetTarvoType() const override;
 
  private:
