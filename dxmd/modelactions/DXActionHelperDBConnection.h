@@ -25,23 +25,50 @@ class DXMD_API DXActionHelperDBConnection : public ActionHandlerBase {
   static const I18NString k_userName;          ///< "userName"
   static const I18NString k_password;          ///< "password"
 
+  /// A connection whose texts are all empty.
   DXActionHelperDBConnection();
   ~DXActionHelperDBConnection() override;
 
+  /// Sets the text of "connectionString": required.
   void setConnectionString(const I18NString& connectionString) { m_connectionString = connectionString; }
+
+  /// Sets the text of "database": required.
   void setDatabase(const I18NString& database) { m_database = database; }
+
+  /// Sets the text of "catalog": left out when empty.
   void setCatalog(const I18NString& catalog) { m_catalog = catalog; }
+
+  /// Sets the text of "schema": left out when empty.
   void setSchema(const I18NString& schema) { m_schema = schema; }
+
+  /// Sets the text of "dbType": left out when empty, but required when read.
   void setDbType(const I18NString& dbType) { m_dbType = dbType; }
+
+  /// Sets the text of "userName": left out when empty.
   void setUserName(const I18NString& userName) { m_userName = userName; }
+
+  /// Sets the text of "password": written as given, and left out when empty.
   void setPassword(const I18NString& password) { m_password = password; }
 
+  /// The text of "database" that was set or read last; empty at first.
   I18NString getDatabase() const { return m_database; }
+
+  /// The text of "catalog" that was set or read last; empty at first.
   I18NString getCatalog() const { return m_catalog; }
+
+  /// The text of "schema" that was set or read last; empty at first.
   I18NString getSchema() const { return m_schema; }
+
+  /// The text of "dbType" that was set or read last; empty at first.
   I18NString getDbType() const { return m_dbType; }
+
+  /// The text of "connectionString" that was set or read last; empty at first.
   I18NString getConnectionString() const { return m_connectionString; }
+
+  /// The text of "userName" that was set or read last; empty at first.
   I18NString getUserName() const { return m_userName; }
+
+  /// The text of "password" that was set or read last; empty at first.
   I18NString getPassword() const { return m_password; }
 
  protected:

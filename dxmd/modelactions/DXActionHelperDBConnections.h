@@ -21,6 +21,7 @@ class DXMD_API DXActionHelperDBConnections : public ActionHandlerBase {
   static const I18NString kElemNameRoot;   ///< "dbConnections"
   static const I18NString k_dbConnection;  ///< "dbConnection"
 
+  /// An empty list.
   DXActionHelperDBConnections();
   ~DXActionHelperDBConnections() override;
 

@@ -23,6 +23,7 @@ class DXMD_API DXActionHelperIQDFile : public ActionHandlerBase {
   static const I18NString k_dbConnectionName;  ///< "dbConnectionName"
   static const I18NString k_cmDataSource;      ///< "cmDataSource"
 
+  /// A file without lines, whose texts are all empty.
   DXActionHelperIQDFile();
   ~DXActionHelperIQDFile() override;
 
@@ -41,8 +42,13 @@ class DXMD_API DXActionHelperIQDFile : public ActionHandlerBase {
   /// Appends one line, without its line end; it may be empty.
   void addContentLine(const I18NString& line) { m_contents.push_back(line); }
 
+  /// The text of "filePath" that was set or read last; empty at first.
   I18NString getFilePath() const { return m_filePath; }
+
+  /// The text of "dbConnectionName" that was set or read last; empty at first.
   I18NString getDbConnectionName() const { return m_dbConnectionName; }
+
+  /// The text of "cmDataSource" that was set or read last; empty at first.
   I18NString getCmDataSource() const { return m_cmDataSource; }
 
   /// The lines in order; valid as long as the helper, and changing with it.
@@ -51,6 +57,8 @@ class DXMD_API DXActionHelperIQDFile : public ActionHandlerBase {
  protected:
   /// @throws TRNAssertError when there are no lines; "file" with its "filePath" has been handed back then.
   void doMake(TRNIDOM_Document& doc, TRNIDOM_Element& domRequest) const override;
+
+  /// Reads what the element has; a null one has nothing.
   void doTake(TRNIDOM_Element& elem) override;
 
  private:

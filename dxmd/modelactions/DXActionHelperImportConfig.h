@@ -18,8 +18,8 @@ class DXMD_API DXActionHelperImportConfig : public ActionHandlerBase {
  public:
   /// A parameter of the connection.
   struct DXMD_API ConnectionItem {
-    I18NString name;
-    I18NString nameInRequest;
+    I18NString name;           ///< "name"
+    I18NString nameInRequest;  ///< "nameInRequest": what requests call it
 
     /// Reads an "item"; a missing attribute is an empty text.
     static ConnectionItem Make(TRNIDOM_Element& item);
@@ -27,28 +27,37 @@ class DXMD_API DXActionHelperImportConfig : public ActionHandlerBase {
 
   /// A capability of the source.
   struct DXMD_API ConfigItem {
-    I18NString name;
-    I18NString value;
+    I18NString name;   ///< "name"
+    I18NString value;  ///< "value"
 
     /// Reads an "item"; a missing attribute is an empty text.
     static ConfigItem Make(TRNIDOM_Element& item);
   };
 
+  /// A configuration without anything until one is taken.
   DXActionHelperImportConfig();
   ~DXActionHelperImportConfig() override;
 
-  // Each of these replaces the caller's text by the answer, which may be empty, and tells whether it is not. Before
-  // `Take`, and without a "connection" to ask for its provider, the text stays as it was.
+  // Each of these replaces the caller's text by the answer, which may be empty.
 
+  /// Gives the source's attribute "queryType".
+  /// @return whether it is there and not empty. Before `Take` the text stays as it was.
   bool getQueryType(I18NString& queryType) const;
+
+  /// Gives the source's attribute "pluginName", with the same result.
   bool getPluginName(I18NString& pluginName) const;
+
+  /// Gives the source's attribute "interfaceType", with the same result.
   bool getInterfaceType(I18NString& interfaceType) const;
+
+  /// Gives the attribute "provider" of the first "connection".
+  /// @return whether it is there and not empty. Before `Take` and without a "connection" the text stays as it was.
   bool getConnectionProvider(I18NString& provider) const;
 
-  /// Appends the connection's parameters to the caller's.
+  /// Appends the parameters of the first "connection" to the caller's.
   void getConnectionItems(std::vector<ConnectionItem>& items) const;
 
-  /// Appends the source's capabilities to the caller's.
+  /// Appends the capabilities of the first "capabilities" to the caller's.
   void getCapabilities(std::vector<ConfigItem>& items) const;
 
   /// The "item" elements, at any depth, below the first element of that name below the root; none for a null root.
@@ -67,6 +76,8 @@ class DXMD_API DXActionHelperImportConfig : public ActionHandlerBase {
 
 /// Appends to the caller's vector a record for each "item" below the first element named `listName` below the root. The
 /// vector's record type makes the record with its static `Make`.
+/// @tparam Vector  a vector of `ConnectionItem`, of `ConfigItem`, or of a record of the caller's own.
+/// @relates DXActionHelperImportConfig
 template <typename Vector>
 void getItems(const TRNIDOM_Element& root, const I18NString& listName, Vector& items) {
   const TRNIDOM_NodeList nodes = DXActionHelperImportConfig::getItemNodes(root, listName);

@@ -19,14 +19,19 @@
 class DXMD_API DXActionHelperObjectAccess : public ActionHandlerBase {
  public:
   /// A rule; of two rules for one principal the larger one holds.
-  enum EObjectAccessRule : int { kUnspecified = 0, kAllow = 1, kDeny = 2 };
+  enum EObjectAccessRule : int {
+    kUnspecified = 0,  ///< "unspecified"; also any text that is no rule
+    kAllow = 1,        ///< "allow"
+    kDeny = 2          ///< "deny"
+  };
 
   /// A principal and its rule. Copies share the principal.
   struct SecurityObjectAccess {
-    TRNSmartPointer<DXActionHelperSecurityObject> securityObject;
-    EObjectAccessRule rule = kUnspecified;
+    TRNSmartPointer<DXActionHelperSecurityObject> securityObject;  ///< the principal; never null in what is read
+    EObjectAccessRule rule = kUnspecified;                         ///< the text of "rule"
   };
 
+  /// A list without entries, and without an element to write them into.
   DXActionHelperObjectAccess();
   ~DXActionHelperObjectAccess() override;
 

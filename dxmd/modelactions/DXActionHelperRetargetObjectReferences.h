@@ -20,22 +20,23 @@ class DXMD_API DXActionHelperRetargetObjectReferences : public ActionHandlerBase
  public:
   /// An item whose references are updated.
   struct ItemToUpdate {
-    I18NString m_itemID;                    ///< never empty
-    std::int32_t m_processDescendants = 0;  ///< 1: the item's descendants as well; any other value: not
+    I18NString m_itemID;                    ///< the item's id, the text of "itemToUpdate"; never empty
+    std::int32_t m_processDescendants = 0;  ///< "processDescendants"; 1: its descendants as well; any other value: not
   };
 
   /// A new reference value and the items that get it.
   struct UpdateInfo {
-    I18NString m_newRefValue;  ///< never empty when read
-    std::vector<ItemToUpdate> m_itemsToUpdate;
+    I18NString m_newRefValue;                   ///< "newRefValue"; never empty when read
+    std::vector<ItemToUpdate> m_itemsToUpdate;  ///< may be empty
   };
 
   /// A reference value and what replaces it.
   struct Entry {
-    I18NString m_currentRefValue;
+    I18NString m_currentRefValue;              ///< "currentRefValue"; empty without the attribute
     std::vector<UpdateInfo> m_updateInfoList;  ///< never empty when read
   };
 
+  /// A helper without an element: `Make` or `Take` comes first.
   DXActionHelperRetargetObjectReferences();
   ~DXActionHelperRetargetObjectReferences() override;
 
@@ -65,6 +66,8 @@ class DXMD_API DXActionHelperRetargetObjectReferences : public ActionHandlerBase
 
  protected:
   void doMake(TRNIDOM_Document& doc, TRNIDOM_Element& domRequest) const override;
+
+  /// Remembers the element, also a null one, with which the next call of another operation fails.
   void doTake(TRNIDOM_Element& elem) override;
 
  private:

@@ -10,9 +10,17 @@
 /// A security principal: a user account, a role or a group. Shared through TRNSmartPointer.
 class DXMD_API DXActionHelperSecurityObject : public TRNReferenceCount {
  public:
-  enum EAccessType : int { kUser = 0, kRole = 1, kGroup = 2 };
+  /// What a principal is, with the text that documents have for it.
+  enum EAccessType : int {
+    kUser = 0,  ///< "account"
+    kRole = 1,  ///< "role"
+    kGroup = 2  ///< "group"
+  };
 
   /// A principal whose type text is that of the access type.
+  /// @param searchPath    identifies it.
+  /// @param readablePath  for people; may be empty.
+  /// @param accessType    what it is.
   /// @throws TRNAssertError for a value outside the enumeration.
   DXActionHelperSecurityObject(const I18NString& searchPath, const I18NString& readablePath,
                                const EAccessType& accessType);
@@ -29,7 +37,10 @@ class DXMD_API DXActionHelperSecurityObject : public TRNReferenceCount {
   /// @throws TRNAssertError for an element of any other name, and for a null one.
   explicit DXActionHelperSecurityObject(TRNIDOM_Element& securityObjectElem);
 
+  /// A principal of its own with the same texts, without references.
   DXActionHelperSecurityObject(const DXActionHelperSecurityObject&) = default;
+
+  /// Copies the texts; who refers to this principal does not change.
   DXActionHelperSecurityObject& operator=(const DXActionHelperSecurityObject&) = default;
   ~DXActionHelperSecurityObject() override;
 
@@ -39,7 +50,7 @@ class DXMD_API DXActionHelperSecurityObject : public TRNReferenceCount {
 
   I18NString cmSearchPath;  ///< identifies the principal; lists ignore a principal whose search path is empty
   I18NString displayPath;   ///< for people; may be empty
-  I18NString type;          ///< access type
+  I18NString type;          ///< "account", "role", "group", or what the received element has
 };
 
 #endif

@@ -26,6 +26,7 @@ class DXMD_API DXActionHelperSecurityObjectSpec : public ActionHandlerBase {
   /// A view by its reference, and the packages of the view by theirs. No reference is ever empty.
   class DXMD_API ViewInfo {
    public:
+    /// A view without packages.
     /// @throws TRNAssertError for an empty reference.
     explicit ViewInfo(const I18NString& viewRef);
 
@@ -34,9 +35,11 @@ class DXMD_API DXActionHelperSecurityObjectSpec : public ActionHandlerBase {
     /// @throws TRNAssertError for a null element, one without "viewref", and an empty reference.
     explicit ViewInfo(TRNIDOM_Element& viewElem);
 
+    /// Appends the reference of a package; duplicates are kept.
     /// @throws TRNAssertError for an empty reference.
     void addPackageRef(const I18NString& packageRef);
 
+    /// The view's reference.
     I18NString getViewRef() const { return m_viewRef; }
 
     /// Appends the package references, in order, to the caller's.
@@ -47,6 +50,7 @@ class DXMD_API DXActionHelperSecurityObjectSpec : public ActionHandlerBase {
     std::vector<I18NString> m_packageRefs;
   };
 
+  /// A helper without an element: `Make` or `Take` comes first.
   DXActionHelperSecurityObjectSpec();
   ~DXActionHelperSecurityObjectSpec() override;
 

@@ -17,12 +17,13 @@ class DXMD_API DXExternalizeReportHelper : public ActionHandlerBase {
  public:
   /// One model object.
   struct Entry {
-    I18NString objectID;
-    I18NString method;
-    I18NString path;
-    I18NString error;
+    I18NString objectID;  ///< "objectID" of the object
+    I18NString method;    ///< "method": how it was externalised
+    I18NString path;      ///< written as "path"; read from "path" of the last child "file", and empty without one
+    I18NString error;     ///< "error"; written, not read
   };
 
+  /// A report without entries.
   DXExternalizeReportHelper();
   ~DXExternalizeReportHelper() override;
 

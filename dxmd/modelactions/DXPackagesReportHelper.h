@@ -21,12 +21,15 @@ class DXMD_API DXPackagesReportHelper : public ActionHandlerBase {
 
   /// A package by its default name and its search path in the content store.
   struct Package {
+    /// @param name  the default name.
+    /// @param path  the search path.
     Package(const I18NString& name, const I18NString& path) : defaultName(name), searchPath(path) {}
 
-    I18NString defaultName;
-    I18NString searchPath;
+    I18NString defaultName;  ///< "defaultName"; empty when a received package has none
+    I18NString searchPath;   ///< "cmSearchPath"; empty when a received package has none
   };
 
+  /// A list without packages.
   DXPackagesReportHelper();
   ~DXPackagesReportHelper() override;
 
