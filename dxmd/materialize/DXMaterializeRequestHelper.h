@@ -25,32 +25,32 @@ class DXMD_API DXMaterializeRequestHelper : public ActionHandlerBase {
  public:
   /// What to do.
   enum ETasks : int {
-    kTaskUnknown = 0,
-    kTaskGenLoadDataFromFile = 1,
-    kTaskLoadDataFromFile = 2,
-    kTaskMaterializeQuerySubject = 3,
-    kTaskMaterializeResultSet = 4,
+    kTaskUnknown = 0,                  ///< no task; written as "unknown", and read from any other text
+    kTaskGenLoadDataFromFile = 1,      ///< "genLoadDataFromFile": generate the load of a file
+    kTaskLoadDataFromFile = 2,         ///< "loadDataFromFile": load a file into a table
+    kTaskMaterializeQuerySubject = 3,  ///< "materializeQuerySubject" when read, "genLoadDataFromFile" when written
+    kTaskMaterializeResultSet = 4      ///< "materializeResultSet" when read, "genLoadDataFromFile" when written
   };
 
   /// What a parameter's value is.
   enum EParameters : int {
-    kParamDataFilePath = 1,
-    kParamTableName = 2,
-    kParamColumnDelimiter = 3,
-    kParamRowDelimiter = 4,
-    kParamDataEncoding = 5,
-    kParamObjectID = 6,
+    kParamDataFilePath = 1,     ///< "dataFilePath"
+    kParamTableName = 2,        ///< "tableName"
+    kParamColumnDelimiter = 3,  ///< "columnDelimiter"
+    kParamRowDelimiter = 4,     ///< "rowDelimiter"
+    kParamDataEncoding = 5,     ///< "dataEncoding"
+    kParamObjectID = 6          ///< "objectID"
   };
 
   /// Where to load to. Each text belongs to whoever filled the structure; null when absent.
   struct TargetDataSource {
-    I18NString* type = nullptr;
-    I18NString* database = nullptr;
-    I18NString* connectionString = nullptr;
-    I18NString* reserved = nullptr;  ///< neither stored nor filled
-    I18NString* userName = nullptr;
-    I18NString* password = nullptr;
-    I18NString* ssoTicket = nullptr;
+    I18NString* type = nullptr;              ///< "type", the one attribute; the rest are texts of elements
+    I18NString* database = nullptr;          ///< "database"
+    I18NString* connectionString = nullptr;  ///< "connectionString"
+    I18NString* reserved = nullptr;          ///< neither stored nor filled
+    I18NString* userName = nullptr;          ///< "username"
+    I18NString* password = nullptr;          ///< "password"
+    I18NString* ssoTicket = nullptr;         ///< "SSOTicket", of a single sign-on
   };
 
   /// The name under which a request carries the task and a response answers it: "genLoadDataFromFile" for both
@@ -60,6 +60,7 @@ class DXMD_API DXMaterializeRequestHelper : public ActionHandlerBase {
   /// The text of a parameter; "unknown" for any other value.
   static const I18NString& GetParameterName(EParameters parameter);
 
+  /// A request without tasks, target data source, parameters and result set.
   DXMaterializeRequestHelper();
   ~DXMaterializeRequestHelper() override;
 
@@ -77,7 +78,7 @@ class DXMD_API DXMaterializeRequestHelper : public ActionHandlerBase {
   /// never null. The texts stay owned by the helper and are valid until the next `SetTargetDataSource`.
   TargetDataSource GetTargetDataSourceInfo();
 
-  /// Sets a parameter; a later value replaces an earlier one.
+  /// Sets a parameter, a "param" with "name" and "value"; a later value replaces an earlier one.
   void AddParameter(EParameters parameter, const I18NString& value);
 
   /// Finds a parameter of the received element. Returns false, leaving `value` as it is, when it has none, when no

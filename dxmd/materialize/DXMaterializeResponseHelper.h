@@ -15,6 +15,7 @@
 /// A helper is used by one thread at a time.
 class DXMD_API DXMaterializeResponseHelper : public ActionHandlerBase {
  public:
+  /// A response without answers.
   DXMaterializeResponseHelper();
   ~DXMaterializeResponseHelper() override;
 

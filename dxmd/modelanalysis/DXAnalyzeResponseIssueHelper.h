@@ -16,12 +16,15 @@
 /// An issue is used by one thread at a time.
 class DXMD_API DXAnalyzeResponseIssueHelper {
  public:
+  /// An issue without objects.
+  /// @param name  what was found: "name".
   explicit DXAnalyzeResponseIssueHelper(const I18NString& name);
 
   DXAnalyzeResponseIssueHelper(const DXAnalyzeResponseIssueHelper&) = delete;
   DXAnalyzeResponseIssueHelper& operator=(const DXAnalyzeResponseIssueHelper&) = delete;
 
-  /// Appends an object and returns it for the caller to add related objects. Valid as long as this one.
+  /// Appends an object and returns it for the caller to add related objects. Valid as long as this one. The arguments
+  /// are those of DXAnalyzeResponseIssueObjectHelper.
   DXAnalyzeResponseIssueObjectHelper* AddObject(const I18NString& name, const I18NString& id,
                                                 const I18NString& className, const I18NString& path,
                                                 const I18NString& refclass,

@@ -17,18 +17,26 @@ class DXMD_API DXAnalyzeResponseIssueObjectHelper {
  public:
   /// What the object is in particular; any value but `kSubTypeMeasure` is nothing.
   enum ESubType : int {
-    kSubTypeNone = 0,
-    kSubTypeMeasure = 1,
+    kSubTypeNone = 0,    ///< an empty "subtype"
+    kSubTypeMeasure = 1  ///< "measure"
   };
 
   /// An object related to this one.
   struct SObject {
-    I18NString name;
-    I18NString id;
-    I18NString className;
-    I18NString path;
+    I18NString name;       ///< "name"
+    I18NString id;         ///< "id"
+    I18NString className;  ///< "class"
+    I18NString path;       ///< "path"
   };
 
+  /// An object without related objects. Each text becomes an attribute, also when it is empty.
+  /// @param name       "name"
+  /// @param id         "id"
+  /// @param className  "class"
+  /// @param path       "path"
+  /// @param refclass   "refclass"
+  /// @param subtype    "subtype"
+  /// @param messages   what is to be said of the object: a "message" each.
   DXAnalyzeResponseIssueObjectHelper(const I18NString& name, const I18NString& id, const I18NString& className,
                                      const I18NString& path, const I18NString& refclass, ESubType subtype,
                                      const std::vector<I18NString>& messages);
@@ -36,7 +44,11 @@ class DXMD_API DXAnalyzeResponseIssueObjectHelper {
   DXAnalyzeResponseIssueObjectHelper(const DXAnalyzeResponseIssueObjectHelper&) = delete;
   DXAnalyzeResponseIssueObjectHelper& operator=(const DXAnalyzeResponseIssueObjectHelper&) = delete;
 
-  /// Appends a related object.
+  /// Appends a related object. Each text becomes an attribute, also when it is empty.
+  /// @param name       "name"
+  /// @param id         "id"
+  /// @param className  "class"
+  /// @param path       "path"
   void AddRelatedObject(const I18NString& name, const I18NString& id, const I18NString& className,
                         const I18NString& path);
 

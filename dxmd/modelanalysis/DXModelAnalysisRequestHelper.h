@@ -17,6 +17,7 @@
 /// A helper is used by one thread at a time.
 class DXMD_API DXModelAnalysisRequestHelper : public ActionHandlerBase {
  public:
+  /// A request without tasks.
   DXModelAnalysisRequestHelper();
   ~DXModelAnalysisRequestHelper() override;
 

@@ -20,6 +20,7 @@ class DXMD_API DXModelAnalysisResponseHelper : public ActionHandlerBase {
   /// nothing writes it.
   static const I18NString STR_refTopicURL;
 
+  /// A response without tasks.
   DXModelAnalysisResponseHelper();
   ~DXModelAnalysisResponseHelper() override;
 

@@ -17,11 +17,14 @@
 /// A helper is used by one thread at a time.
 class DXMD_API DXActionFeedbackHelper : public ActionHandlerBase {
  public:
+  /// A feedback without messages.
   DXActionFeedbackHelper();
   ~DXActionFeedbackHelper() override;
 
   /// Appends a message and returns it for the caller to add messages below it. Valid as long as the helper.
-  /// @param name  a label; empty for none.
+  /// @param entryClass  "class"
+  /// @param text        what the entry says.
+  /// @param name        a label, "name"; empty for none.
   DXFeedbackEntry* AddEntry(DXFeedbackEntry::EEntryClass entryClass, const I18NString& text, const I18NString& name);
 
   /// Appends a message below the parent, which must not be null, and returns it. Valid as long as the parent.

@@ -13,16 +13,19 @@
 /// An entry is used by one thread at a time.
 class DXMD_API DXFeedbackEntry {
  public:
-  /// What kind of message it is.
+  /// What kind of message it is, with the text of the attribute "class".
   enum EEntryClass : int {
-    kEntryUnknown = 0,
-    kEntryInfo = 1,
-    kEntryWarning = 2,
-    kEntryError = 3,
-    kEntryTrace = 4,
+    kEntryUnknown = 0,  ///< "unknown"
+    kEntryInfo = 1,     ///< "info"
+    kEntryWarning = 2,  ///< "warning"
+    kEntryError = 3,    ///< "error"
+    kEntryTrace = 4     ///< "trace"
   };
 
-  /// @param name  a label; empty for none.
+  /// An entry without entries below it.
+  /// @param entryClass  "class"
+  /// @param text        what the entry says.
+  /// @param name        a label, "name"; empty for none.
   DXFeedbackEntry(EEntryClass entryClass, const I18NString& text, const I18NString& name);
   ~DXFeedbackEntry();
 
@@ -37,6 +40,9 @@ class DXMD_API DXFeedbackEntry {
 
   /// Appends the line of one received entry to `out`: a line feed, the indent, "*** Error:" for the class "error" or
   /// "--- " for any other, and the text that the entry begins with. Entries below it are no part of its line.
+  /// @param elem    an "entry"; of a null one the line has no text.
+  /// @param indent  what the line begins with.
+  /// @param out     what the line is appended to.
   static void Render(TRNIDOM_Element& elem, const I18NString& indent, I18NString& out);
 
  private:
@@ -47,6 +53,7 @@ class DXMD_API DXFeedbackEntry {
 };
 
 /// The text of an entry class; "unknown" for any other value.
+/// @relates DXFeedbackEntry
 DXMD_API I18NString ToString(DXFeedbackEntry::EEntryClass entryClass);
 
 #endif

@@ -19,8 +19,11 @@
 /// A helper is used by one thread at a time.
 class DXMD_API DXUpdateObjectRequestHelper : public ActionHandlerBase {
  public:
+  /// A request without tasks.
   DXUpdateObjectRequestHelper();
+
   /// Takes the element at once.
+  /// @throws TRNAssertError as `Take` does.
   explicit DXUpdateObjectRequestHelper(TRNIDOM_Element& elem);
   ~DXUpdateObjectRequestHelper() override;
 
@@ -32,6 +35,7 @@ class DXMD_API DXUpdateObjectRequestHelper : public ActionHandlerBase {
 
  protected:
   void doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const override;
+
   /// @throws TRNAssertError for a "task" whose name is none; the tasks before it stay.
   void doTake(TRNIDOM_Element& elem) override;
 

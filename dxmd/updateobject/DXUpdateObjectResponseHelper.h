@@ -20,8 +20,11 @@
 /// A helper is used by one thread at a time.
 class DXMD_API DXUpdateObjectResponseHelper : public ActionHandlerBase {
  public:
+  /// A response without tasks.
   DXUpdateObjectResponseHelper();
+
   /// Takes the element at once.
+  /// @throws TRNAssertError as `Take` does.
   explicit DXUpdateObjectResponseHelper(TRNIDOM_Element& elem);
   ~DXUpdateObjectResponseHelper() override;
 
@@ -36,6 +39,7 @@ class DXMD_API DXUpdateObjectResponseHelper : public ActionHandlerBase {
 
  protected:
   void doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const override;
+
   /// @throws TRNAssertError for a "task" whose name is none; the tasks before it stay.
   void doTake(TRNIDOM_Element& elem) override;
 

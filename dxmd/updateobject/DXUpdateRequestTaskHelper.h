@@ -26,78 +26,88 @@ class DXMD_API DXUpdateRequestTaskHelper : public ActionHandlerBase {
  public:
   /// What to do to the model.
   enum ETask : int {
-    kTaskUnknown = 0,
-    kTaskAddProperty = 1,
-    kTaskRemoveProperty = 2,
-    kTaskUpdateProperty = 3,
-    kTaskReorderProperty = 4,
-    kTaskAddObject = 5,
-    kTaskRemoveObject = 6,
+    kTaskUnknown = 0,          ///< no task; written as "unknown", refused when read
+    kTaskAddProperty = 1,      ///< "addProperty"
+    kTaskRemoveProperty = 2,   ///< "removeProperty"
+    kTaskUpdateProperty = 3,   ///< "updateProperty"
+    kTaskReorderProperty = 4,  ///< "reorderProperty"
+    kTaskAddObject = 5,        ///< "addObject"
+    kTaskRemoveObject = 6      ///< "removeObject"
   };
 
   /// What a value is for.
   enum EParameter : int {
-    kParamUnknown = 0,
-    kParamPropertyType = 1,
-    kParamPropertyValue = 2,
-    kParamForceUpdate = 3,
-    kParamCreateIfNeeded = 4,
-    kParamPropertyIndex = 5,
-    kParamPropertyBeforeIndex = 6,
-    kParamObjectName = 7,
-    kParamObjectType = 8,
-    kParamMakeNameUnique = 9,
-    kParamObjectID = 10,
-    kParamObjectBeforeID = 11,
-    kParamBasedOn = 12,
-    kParamCaption = 13,
-    kParamFilterApplyType = 14,
-    kParamQueryType = 15,
-    kParamDefinitionType = 16,
-    kParamSubType = 17,
-    kParamCmDisplayPath = 18,
-    kParamCmSearchPath = 19,
-    kParamFunctionSetID = 20,
-    kParamOverrideFuncID = 21,
-    kParamOverrideQOSLevel = 22,
-    kParamOverrideDescription = 23,
-    kParamQuerySubjectRefs = 24,
-    kParamSetOperation = 25,
-    kParamDuplicates = 26,
-    kParamConvergenceLevel = 27,
-    kParamKey = 28,
-    kParamAttributes = 29,
-    kParamCanGroup = 30,
-    kParamIdentifiesRow = 31,
-    kParamApplyAggregate = 32,
-    kParamDimensionRef = 33,
+    kParamUnknown = 0,               ///< no parameter; written as "unknown", refused when read
+    kParamPropertyType = 1,          ///< "propertyType"; tells whether the "propertyValue" behind it carries object IDs
+    kParamPropertyValue = 2,         ///< "propertyValue"; carries object IDs when a "propertyType" says so
+    kParamForceUpdate = 3,           ///< "forceUpdate"
+    kParamCreateIfNeeded = 4,        ///< "createIfNeeded"
+    kParamPropertyIndex = 5,         ///< "propertyIndex"
+    kParamPropertyBeforeIndex = 6,   ///< "propertyBeforeIndex"
+    kParamObjectName = 7,            ///< "objectName"
+    kParamObjectType = 8,            ///< "objectType"
+    kParamMakeNameUnique = 9,        ///< "makeNameUnique"
+    kParamObjectID = 10,             ///< "objectID"; carries object IDs
+    kParamObjectBeforeID = 11,       ///< "objectBeforeID"; carries object IDs
+    kParamBasedOn = 12,              ///< "basedOn"; carries object IDs
+    kParamCaption = 13,              ///< "caption"
+    kParamFilterApplyType = 14,      ///< "filterApplyType"
+    kParamQueryType = 15,            ///< "queryType"
+    kParamDefinitionType = 16,       ///< "definitionType"
+    kParamSubType = 17,              ///< "subType"
+    kParamCmDisplayPath = 18,        ///< "cmDisplayPath"
+    kParamCmSearchPath = 19,         ///< "cmSearchPath"
+    kParamFunctionSetID = 20,        ///< "functionSetID"
+    kParamOverrideFuncID = 21,       ///< "overrideFuncID"
+    kParamOverrideQOSLevel = 22,     ///< "overrideQOSLevel"
+    kParamOverrideDescription = 23,  ///< "overrideDescription"
+    kParamQuerySubjectRefs = 24,     ///< "querySubjectRefs"
+    kParamSetOperation = 25,         ///< "setOperation"
+    kParamDuplicates = 26,           ///< "duplicates"
+    kParamConvergenceLevel = 27,     ///< "convergenceLevel"
+    kParamKey = 28,                  ///< "key"; carries object IDs
+    kParamAttributes = 29,           ///< "attributes"; carries object IDs
+    kParamCanGroup = 30,             ///< "canGroup"
+    kParamIdentifiesRow = 31,        ///< "identifiesRow"
+    kParamApplyAggregate = 32,       ///< "applyAggregate"
+    kParamDimensionRef = 33          ///< "dimensionRef"; carries object IDs
   };
 
   /// One value of a parameter: a plain text with an optional locale, or a whole subtree.
   struct ParamValue {
     /// A subtree. The handle is kept, the subtree is not copied.
     explicit ParamValue(const TRNIDOM_Element& subtree) : element(subtree) {}
-    /// @param localeName  empty for none.
+
+    /// A plain value.
+    /// @param text        "value"
+    /// @param localeName  "locale"; empty for none.
     ParamValue(const I18NString& text, const I18NString& localeName) : locale(localeName), value(text) {}
 
-    I18NString locale;
-    I18NString value;         ///< empty for a subtree
-    TRNIDOM_Element element;  ///< null for a plain value
+    I18NString locale;        ///< "locale"; empty for none, and always for a subtree read
+    I18NString value;         ///< "value"; empty for a subtree
+    TRNIDOM_Element element;  ///< the child of "param" that stands for the value; null for a plain value
   };
 
-  /// The text of a task kind or parameter; "unknown" for any other value.
+  /// The text of a task kind; "unknown" for any other value.
   static const I18NString& ToString(ETask task);
+
+  /// The text of a parameter; "unknown" for any other value.
   static const I18NString& ToString(EParameter parameter);
 
-  /// The task kind or parameter of exactly that text; unknown for any other text.
+  /// The task kind of exactly that text; unknown for any other text.
   static ETask ToTask(const I18NString& text);
+
+  /// The parameter of exactly that text; unknown for any other text.
   static EParameter ToParameter(const I18NString& text);
 
+  /// A task without parameters, whose kind does not change.
   explicit DXUpdateRequestTaskHelper(ETask task);
   ~DXUpdateRequestTaskHelper() override;
 
   /// Appends a plain value.
-  /// @param locale  empty for none.
+  /// @param parameter  what the value is for: "name".
+  /// @param value      "value", written also when empty.
+  /// @param locale     "locale"; empty for none.
   void AddParameter(EParameter parameter, const I18NString& value, const I18NString& locale);
 
   /// Appends a subtree, of any document, which is copied when the task is written. A null element counts as an empty
@@ -113,6 +123,7 @@ class DXMD_API DXUpdateRequestTaskHelper : public ActionHandlerBase {
   /// The same for the first value alone.
   bool GetParameter(EParameter parameter, ParamValue*& value);
 
+  /// The kind of task: "name".
   ETask GetTask() const { return m_task; }
 
   /// Moves the cursor to the next received "param" that carries object IDs and replaces `vIDs` by these: its "value",
@@ -122,7 +133,7 @@ class DXMD_API DXUpdateRequestTaskHelper : public ActionHandlerBase {
   /// The value of a property carries IDs when a "propertyType" passed before it in an "addProperty" or
   /// "updateProperty" task says so.
   /// @throws TRNAssertError as `GetParameter` does; the cursor stands on a "param" that has neither "value" nor
-  /// element.
+  ///         element.
   bool GetNextIDParameters(std::vector<I18NString>& vIDs);
 
   /// Writes IDs over those that the cursor stands on, in the received element.
@@ -132,7 +143,10 @@ class DXMD_API DXUpdateRequestTaskHelper : public ActionHandlerBase {
   ///         and for any other number of IDs; nothing is written then.
   void UpdateCurrentIDParameters(const std::vector<I18NString>& vIDs);
 
+  /// Hands back a new "task". Public for the request that owns the task.
   void doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const override;
+
+  /// Keeps the "task" for the first `GetParameter` and the cursor; a null one has no parameters.
   void doTake(TRNIDOM_Element& elem) override;
 
  private:

@@ -26,34 +26,42 @@ class DXUpdateObjectResponseHelper;
 /// A task is used by one thread at a time.
 class DXMD_API DXUpdateResponseTaskHelper : public ActionHandlerBase {
  public:
+  /// How the task ended, with the text of "status".
   enum EStatus : int {
-    kStatusUnknown = 0,
-    kStatusSuccess = 1,
-    kStatusFailure = 2,
+    kStatusUnknown = 0,  ///< written as "unknown", and read from any other text
+    kStatusSuccess = 1,  ///< "success"
+    kStatusFailure = 2   ///< "failure"
   };
 
   /// What a value names.
   enum EParameter : int {
-    kParamUnknown = 0,
-    kParamProperty = 1,
-    kParamObject = 2,
+    kParamUnknown = 0,   ///< no parameter; written as "unknown", refused when read
+    kParamProperty = 1,  ///< "property": a property that was touched
+    kParamObject = 2     ///< "object": an object that was touched
   };
 
   /// Why the task failed.
   struct ErrorRecord {
-    I18NString code;
-    I18NString message;
+    I18NString code;     ///< "code"; empty without the attribute
+    I18NString message;  ///< the text that "error" begins with
   };
 
+  /// A task without parameters, error and feedback.
+  /// @param task    the kind of task, which does not change.
+  /// @param status  how it ended.
   DXUpdateResponseTaskHelper(DXUpdateRequestTaskHelper::ETask task, EStatus status);
   ~DXUpdateResponseTaskHelper() override;
 
+  /// The kind of task: "name".
   DXUpdateRequestTaskHelper::ETask GetTask() const { return m_task; }
 
+  /// How the task ended: "status".
   EStatus GetStatus() const { return m_status; }
+
+  /// Replaces the status.
   void SetStatus(EStatus status) { m_status = status; }
 
-  /// Appends a value.
+  /// Appends a value, written as a "param" with "name" and "value".
   void AddParameter(EParameter parameter, const I18NString& value);
 
   /// Replaces `values` by the parameter's values and returns true; without the parameter returns false and leaves
@@ -64,7 +72,7 @@ class DXMD_API DXUpdateResponseTaskHelper : public ActionHandlerBase {
   /// Sets the error, or overwrites the one there is.
   void SetError(const I18NString& code, const I18NString& message);
 
-  /// The error, owned by the task; null when there is none.
+  /// The error, set or received, owned by the task and valid as long as it; null when there is none.
   ErrorRecord* GetError();
 
   /// Keeps a copy of the messages added to the feedback. A feedback without any leaves the one kept before.
@@ -73,7 +81,10 @@ class DXMD_API DXUpdateResponseTaskHelper : public ActionHandlerBase {
   /// The "feedback" element, for a DXActionFeedbackHelper to take and render; null when there is none.
   TRNIDOM_Element GetFeedback() const { return m_feedback; }
 
+  /// Hands back a new "task". Public for the response that owns the task.
   void doMake(TRNIDOM_Document& doc, TRNIDOM_Element& elem) const override;
+
+  /// Keeps the "task" and the first "feedback" below it; status and kind stay those of the constructor.
   void doTake(TRNIDOM_Element& elem) override;
 
  private:
@@ -91,12 +102,20 @@ class DXMD_API DXUpdateResponseTaskHelper : public ActionHandlerBase {
   TRNIDOM_Element m_feedback;
 };
 
-/// The text of a status or parameter; "unknown" for any other value.
+/// The text of a status; "unknown" for any other value.
+/// @relates DXUpdateResponseTaskHelper
 DXMD_API const I18NString& ToString(DXUpdateResponseTaskHelper::EStatus status);
+
+/// The text of a parameter; "unknown" for any other value.
+/// @relates DXUpdateResponseTaskHelper
 DXMD_API const I18NString& ToString(DXUpdateResponseTaskHelper::EParameter parameter);
 
-/// The status or parameter of exactly that text; unknown for any other text.
+/// The status of exactly that text; unknown for any other text.
+/// @relates DXUpdateResponseTaskHelper
 DXMD_API DXUpdateResponseTaskHelper::EStatus ToStatus(const I18NString& text);
+
+/// The parameter of exactly that text; unknown for any other text.
+/// @relates DXUpdateResponseTaskHelper
 DXMD_API DXUpdateResponseTaskHelper::EParameter ToParameter(const I18NString& text);
 
 #endif
