@@ -12,6 +12,8 @@
 /// Written: build and hand back; the element is not attached to its document. Levels precede hierarchies, and a list
 /// without members writes no element. The "externalName" of a level or hierarchy is its name again.
 /// Not read.
+///
+/// A helper is used by one thread at a time.
 class DXMD_API DimensionInfoHelper : public ActionHandlerBase {
  public:
   /// A level, its key and its attributes.

@@ -14,6 +14,8 @@
 /// written without a database type cannot be read back. A missing optional child leaves its text as it was.
 ///
 /// The password is written and read as given.
+///
+/// A helper is used by one thread at a time.
 class DXMD_API DXActionHelperDBConnection : public ActionHandlerBase {
  public:
   static const I18NString k_dbConnection;      ///< "dbConnection"

@@ -16,6 +16,8 @@
 ///
 /// Written: build and hand back, as the document element of a document of its own; each element held is copied.
 /// Read: every "dbConnection" at any depth, added to those already held.
+///
+/// A helper is used by one thread at a time.
 class DXMD_API DXActionHelperDBConnections : public ActionHandlerBase {
  public:
   static const I18NString kElemNameRoot;   ///< "dbConnections"

@@ -13,6 +13,8 @@
 /// find-or-create: equal lines of the file become one "line" element, where the first of them stood.
 /// Read: eagerly; every part is optional, and a missing one leaves its text as it was. Lines read, at any depth below
 /// "contents", are added to those already held.
+///
+/// A helper is used by one thread at a time.
 class DXMD_API DXActionHelperIQDFile : public ActionHandlerBase {
  public:
   static const I18NString kElemNameRoot;       ///< "file"

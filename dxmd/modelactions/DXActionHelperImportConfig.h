@@ -14,6 +14,8 @@
 ///
 /// Read: lazily. `Take` remembers the element; each getter reads it anew. Of several "connection" or "capabilities"
 /// elements the first, at any depth, counts.
+///
+/// A helper is used by one thread at a time.
 class DXMD_API DXActionHelperImportConfig : public ActionHandlerBase {
  public:
   /// A parameter of the connection.

@@ -16,6 +16,8 @@
 /// and remembers it; each `addEntry` writes into it. The element stays the caller's to change between calls. Read:
 /// lazily. `Take` remembers the element, into which `addEntry` then writes as well; each reader reads it anew. Entries
 /// added while nothing was made or taken are held until something is, and then given up for what it holds.
+///
+/// A helper is used by one thread at a time.
 class DXMD_API DXActionHelperObjectAccess : public ActionHandlerBase {
  public:
   /// A rule; of two rules for one principal the larger one holds.

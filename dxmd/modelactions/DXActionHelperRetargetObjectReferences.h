@@ -16,6 +16,8 @@
 /// remembers it; each `addEntry` merges into it. The element stays the caller's to change between calls.
 /// Read: lazily. `Take` remembers the element, into which `addEntry` then writes as well; each `getEntries` reads it
 /// anew.
+///
+/// A helper is used by one thread at a time.
 class DXMD_API DXActionHelperRetargetObjectReferences : public ActionHandlerBase {
  public:
   /// An item whose references are updated.

@@ -8,6 +8,9 @@
 #include <dxmd/core/Export.h>
 
 /// A security principal: a user account, a role or a group. Shared through TRNSmartPointer.
+///
+/// Threads: pointers to one principal may be used by several threads at once, the principal itself by one that changes
+/// it or by several that read it.
 class DXMD_API DXActionHelperSecurityObject : public TRNReferenceCount {
  public:
   /// What a principal is, with the text that documents have for it.

@@ -16,6 +16,8 @@
 /// and remembers it; each `addEntry` writes into it.
 /// Read: lazily. `Take` remembers the element, into which `addEntry` then writes as well; each `getEntry` reads the
 /// next principal.
+///
+/// A helper is used by one thread at a time.
 class DXMD_API DXActionHelperSecurityObjectSpec : public ActionHandlerBase {
  public:
   static const I18NString kElemNameRoot;        ///< "securityObjects"

@@ -13,6 +13,8 @@
 /// Written: build and hand back; the element is not attached to its document. All four texts become attributes.
 /// Read: eagerly, every "entry" at any depth, added to those already held. The path comes from the last child "file",
 /// and no error is read: a report written here reads back without paths and errors.
+///
+/// A helper is used by one thread at a time.
 class DXMD_API DXExternalizeReportHelper : public ActionHandlerBase {
  public:
   /// One model object.

@@ -12,6 +12,8 @@
 ///
 /// Written: build and hand back; the element is not attached to its document.
 /// Read: eagerly, every "package" at any depth, added to those already held.
+///
+/// A helper is used by one thread at a time.
 class DXMD_API DXPackagesReportHelper : public ActionHandlerBase {
  public:
   // Misspelt in the interface, and so kept.

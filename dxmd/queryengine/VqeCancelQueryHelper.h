@@ -10,6 +10,8 @@
 /// The command that cancels the running request: "cancel", naming the default request, in the envelope. The command
 /// goes by identifiers of its own, "DXCancelCommand" and "DXCancelRequest", so that it is not taken for the request
 /// it cancels.
+///
+/// A helper is used by one thread at a time.
 class DXMD_API VqeCancelQueryHelper : public QFCommandHelper {
  public:
   /// A command that cancels the default request.

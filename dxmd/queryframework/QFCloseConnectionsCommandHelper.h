@@ -8,6 +8,8 @@
 #include <dxmd/queryframework/QFCommandHelper.h>
 
 /// The command that closes the service's connections: an empty "closeConnections" in the envelope.
+///
+/// A helper is used by one thread at a time.
 class DXMD_API QFCloseConnectionsCommandHelper : public QFCommandHelper {
  public:
   /// A command with the default identifiers, without a connection.

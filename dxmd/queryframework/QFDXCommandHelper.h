@@ -16,6 +16,8 @@
 ///
 /// "dxCommand" carries the query locale, when one was set, and holds the model path ("source"/"model"), the command
 /// proper, and the query feedbacks that the caller wants, when there are any.
+///
+/// A helper is used by one thread at a time.
 class DXMD_API QFDXCommandHelper : public QFCommandHelper {
  public:
   /// @param modelPath  the model that the command works on: the text of "model" in "source".

@@ -23,6 +23,8 @@
 /// Written: build and hand back, in the command envelope. The queries share one result definition, named after the
 /// last of them; when the first query is named "SingleCount" or "querySet", that one alone is defined.
 /// The command owns its queries; pointers to them are valid as long as the command.
+///
+/// A command is used, with its queries and their records, by one thread at a time.
 class DXMD_API QFExecuteCommandHelper : public QFCommandHelper {
  public:
   /// The values of the hint "executionOptimization".

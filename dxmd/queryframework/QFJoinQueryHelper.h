@@ -9,6 +9,8 @@
 
 /// A query whose source joins two queries of the same command, which creates and owns it:
 /// `QFExecuteCommandHelper::AddJoinQuery`.
+///
+/// Threads: as QFQueryHelper.
 class DXMD_API QFJoinQueryHelper : public QFQueryHelper {
  public:
   /// @param name                  the query's own name.

@@ -11,6 +11,8 @@
 
 /// A query whose source combines two queries by a set operation. The two must be named "leftQuery" and "rightQuery".
 /// `QFExecuteCommandHelper::AddModelSetQuery` creates and owns it.
+///
+/// Threads: as QFQueryHelper.
 class DXMD_API QFModelSetQueryHelper : public QFQueryHelper {
  public:
   /// @param name          the query's own name.

@@ -18,6 +18,8 @@
 ///
 /// Written: build and hand back, the "query" element. Nothing is read. A query is created by
 /// `QFExecuteCommandHelper::AddQuery`, which owns it; its records live as long as the query.
+///
+/// A query is used, with its records, by one thread at a time, and not while its command is written.
 class DXMD_API QFQueryHelper : public ActionHandlerBase {
  public:
   /// Advice to the query engine. Every query carries "avoidZeroDiv" = "true" unless the caller overwrites it.

@@ -12,6 +12,8 @@
 /// The "update" command: update subjects, each a name and a text, for one model.
 ///
 /// Written: build and hand back, in the command envelope.
+///
+/// A helper is used by one thread at a time.
 class DXMD_API QFUpdateCommandHelper : public QFCommandHelper {
  public:
   /// An update subject: an "updateSubject" element.

@@ -14,6 +14,8 @@
 /// Written: build and hand back, in the command envelope. What is to be validated comes in through the element handed
 /// to `Make`: the children of its first child are copied into "validate", and the handle then refers to the command. A
 /// null element, or one without a first child, gives an empty "validate".
+///
+/// A helper is used by one thread at a time.
 class DXMD_API QFValidateCommandHelper : public QFCommandHelper {
  public:
   /// A command with the default identifiers, without a connection.

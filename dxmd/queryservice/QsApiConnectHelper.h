@@ -19,6 +19,8 @@
 /// Written: build and hand back. After the provider type come the properties in order of their keys, those with an
 /// empty value left out, then the models as inner connections, then the flags. Nothing is read.
 /// Setters may be called in any order and again; the last value counts. The password is written as plain text.
+///
+/// A helper is used by one thread at a time.
 class DXMD_API QsApiConnectHelper : public ActionHandlerBase {
  public:
   /// Name reserved for the password of a cube; no operation of this class writes it.

@@ -17,6 +17,8 @@
 ///
 /// Value and sub-nodes are read from the item taken at the first call of their getter, one level at a time; until then
 /// the item is written without them.
+///
+/// An item is used, with those in it, by one thread at a time.
 class DXMD_API QsParamValueItemHierarchyHelper : public QsParamValueItemHelper {
  public:
   /// An item without value and sub-nodes.

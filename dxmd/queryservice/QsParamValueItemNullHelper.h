@@ -9,6 +9,8 @@
 #include <dxmd/queryservice/QsParamValueItemHelper.h>
 
 /// The null value: an "item" that carries nothing but "xsi:nil" = "true".
+///
+/// An item is used by one thread at a time.
 class DXMD_API QsParamValueItemNullHelper : public QsParamValueItemHelper {
  public:
   /// An item that says that there is no value.

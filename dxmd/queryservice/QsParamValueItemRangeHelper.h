@@ -15,6 +15,8 @@
 ///
 /// A bound is read from the item taken at the first call of its getter; until then the range is written, and its type
 /// told, without it.
+///
+/// An item is used, with those in it, by one thread at a time.
 class DXMD_API QsParamValueItemRangeHelper : public QsParamValueItemHelper {
  public:
   /// A range without bounds.

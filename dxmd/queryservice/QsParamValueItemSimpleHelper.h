@@ -9,6 +9,8 @@
 #include <dxmd/queryservice/QsParamValueItemHelper.h>
 
 /// A single value: the value to use, and the text to display for it, which is read but never written.
+///
+/// An item is used by one thread at a time.
 class DXMD_API QsParamValueItemSimpleHelper : public QsParamValueItemHelper {
  public:
   /// An empty, inclusive value.

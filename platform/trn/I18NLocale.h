@@ -5,6 +5,8 @@
 #include <trn/TRNExport.h>
 
 /// The name of a locale, kept exactly as given: it goes onto the wire and is never interpreted.
+///
+/// Threads: a locale may be read by any number of threads at once.
 class TRN_API I18NLocale {
  public:
   /// A locale of that name, such as "en-gb"; any text will do, the empty one included.

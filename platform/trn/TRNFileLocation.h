@@ -4,6 +4,8 @@
 #include <trn/TRNExport.h>
 
 /// A place in the sources: the file's name without folder or ending, and the line.
+///
+/// Threads: a value that does not change; safe from any number of threads at once.
 class TRN_API TRNFileLocation {
  public:
   /// @param file  the file's name without folder or ending: a text that lives as long as the process; not copied.

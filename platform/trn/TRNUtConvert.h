@@ -5,6 +5,8 @@
 #include <trn/TRNExport.h>
 
 /// Numbers as text, in decimal.
+///
+/// Threads: safe from any number of threads at once.
 class TRN_API TRNUtConvert {
  public:
   /// Writes a signed number. With `(value, 1, '0', 0, '+', '-')` this is `printf("%ld")`.

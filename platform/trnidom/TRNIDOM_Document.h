@@ -17,6 +17,8 @@
 ///
 /// Creating on a null document throws TRNIDOM_DOMException, as does a malformed name, and a text with U+0000, which no
 /// DOM can hold (`INVALID_CHARACTER_ERR`). What is created belongs to this document and has no parent.
+///
+/// Threads: as TRNIDOM_Node.
 class TRNIDOM_API TRNIDOM_Document : public TRNIDOM_Node {
  public:
   /// The null handle.

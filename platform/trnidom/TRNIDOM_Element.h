@@ -12,6 +12,8 @@
 ///
 /// It converts from any node without a check and keeps that node, so that a cursor can stand on a text node and be
 /// asked its name. Asked an element's question, a node that is no element answers null, empty or false.
+///
+/// Threads: as TRNIDOM_Node.
 class TRNIDOM_API TRNIDOM_Element : public TRNIDOM_Node {
  public:
   /// The null handle.

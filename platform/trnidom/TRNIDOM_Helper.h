@@ -11,6 +11,8 @@
 /// Names, texts and values are compared exactly, as a whole. A null parent gives a null handle or empty text and
 /// creates nothing. Finding or creating n distinct children under one parent costs O(n) in all, also where their keys
 /// change or some are removed in between.
+///
+/// Threads: finding reads the document, which several threads may do at once; find-or-create changes it.
 class TRNIDOM_API TRNIDOM_Helper {
  public:
   /// The first child element of that name, or null.

@@ -10,6 +10,8 @@
 ///
 /// Two iterators are equal at the same index, and when both are at or past the current end.
 /// @tparam List  TRNIDOM_NodeList or TRNIDOM_NamedNodeMap.
+///
+/// Threads: an iterator asks its list, and so is used by the thread that uses the list.
 template <typename List>
 class TRNIDOM_IndexIterator {
  public:
