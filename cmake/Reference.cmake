@@ -1,5 +1,6 @@
 # The target `reference`: Doxygen's pages of every installed header and of the documents beside them, in docs/html of the
-# build folder. A public name without a docstring is an error, and so is any other warning.
+# build folder, and of what another platform must offer, in docs/contract/html. A name without a docstring is an error,
+# and so is any other warning.
 if(DXMD_SYSTEM_PLATFORM)
   return()
 endif()
@@ -12,8 +13,8 @@ foreach(library IN ITEMS trn trnidom dxmd_actionhelper)
   get_target_property(headers ${library} HEADER_SET)
   list(APPEND reference_headers ${headers})
 endforeach()
-file(GLOB_RECURSE reference_pages CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/*.md)
-file(GLOB reference_readmes CONFIGURE_DEPENDS
+file(GLOB_RECURSE reference_pages ${PROJECT_SOURCE_DIR}/docs/*.md)
+file(GLOB reference_readmes
   ${PROJECT_SOURCE_DIR}/*.md ${PROJECT_SOURCE_DIR}/*/README.md ${PROJECT_SOURCE_DIR}/platform/*/README.md)
 
 set(DOXYGEN_OUTPUT_DIRECTORY docs)
@@ -40,3 +41,13 @@ set(DOXYGEN_WARN_AS_ERROR FAIL_ON_WARNINGS)
 
 doxygen_add_docs(reference ${reference_readmes} ${reference_pages} ${reference_headers}
   COMMENT "Building the reference")
+
+# The contract's classes have the names of those above, and so pages of their own.
+set(DOXYGEN_PROJECT_NAME "${PROJECT_NAME}: contract of the platform")
+set(DOXYGEN_OUTPUT_DIRECTORY docs/contract)
+set(DOXYGEN_STRIP_FROM_INC_PATH ${PROJECT_SOURCE_DIR}/platform/contract)
+set(DOXYGEN_RECURSIVE YES)
+set(DOXYGEN_FILE_PATTERNS *.h)
+unset(DOXYGEN_USE_MDFILE_AS_MAINPAGE)
+doxygen_add_docs(reference_contract ${PROJECT_SOURCE_DIR}/platform/contract COMMENT "Building the contract's reference")
+add_dependencies(reference reference_contract)

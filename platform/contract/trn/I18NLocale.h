@@ -6,6 +6,7 @@
 /// The name of a locale.
 class I18NLocale {
  public:
+  /// A locale of that name, which is not interpreted.
   explicit I18NLocale(const I18NString& name);
 
   /// The name exactly as given: it goes onto the wire.

@@ -1,12 +1,16 @@
 #ifndef TRN_TRNASSERT_H
 #define TRN_TRNASSERT_H
 
+/// @file
+/// The assertions that the helpers check received documents and their own state with.
+
 #include <trn/TRNAssertError.h>
 #include <trn/TRNFileLocation.h>
 
 namespace trn_contract {
+/// Stands for however the platform throws.
 [[noreturn]] void assertFailed(const char* message, const char* file, int line);
-}
+}  // namespace trn_contract
 
 /// Throws a TRNAssertError with code 0 when the condition is false, in every build. Its message is the text
 /// "TRN_ASSERT(", the condition's own source text with no macro in it expanded, and ");". Its location is the line and

@@ -5,8 +5,13 @@
 /// is. Counting is safe from several threads at once.
 class TRNReferenceCount {
  public:
+  /// An object without references.
   TRNReferenceCount();
+
+  /// An object of its own, without references.
   TRNReferenceCount(const TRNReferenceCount&);
+
+  /// Leaves the count as it is.
   TRNReferenceCount& operator=(const TRNReferenceCount&);
   virtual ~TRNReferenceCount();
 };

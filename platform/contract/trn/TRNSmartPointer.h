@@ -13,7 +13,10 @@ class TRNSmartPointer {
   /// Takes a reference to an object made with `new`; null is allowed. Implicit.
   TRNSmartPointer(T* object);
 
+  /// One more reference to the same object.
   TRNSmartPointer(const TRNSmartPointer& other);
+
+  /// Refers to the other's object instead; what was referred to goes if this was its last pointer.
   TRNSmartPointer& operator=(const TRNSmartPointer& other);
   ~TRNSmartPointer();
 };

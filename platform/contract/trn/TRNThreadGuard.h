@@ -6,6 +6,7 @@
 /// Enters a critical section, waiting while another thread is inside, and leaves it when destroyed.
 class TRNThreadGuard {
  public:
+  /// Enters the section, which must outlive the guard.
   explicit TRNThreadGuard(TRNThreadCriticalSection& section);
   ~TRNThreadGuard();
 

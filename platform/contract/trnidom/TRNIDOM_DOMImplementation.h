@@ -8,6 +8,7 @@
 /// Makes documents, on any thread.
 class TRNIDOM_DOMImplementation {
  public:
+  /// The implementation, from any thread.
   static TRNIDOM_DOMImplementation getInstance();
 
   /// Makes a document.
@@ -17,6 +18,7 @@ class TRNIDOM_DOMImplementation {
   /// here gives way as long as it has neither child nor attribute (or is not made at all).
   /// @param namespaceURI   empty means no namespace.
   /// @param qualifiedName  name of the document element.
+  /// @param doctype        the helpers give the null one.
   TRNIDOM_Document createDocument(const I18NString& namespaceURI, const I18NString& qualifiedName,
                                   const TRNIDOM_DocumentType& doctype) const;
 };

@@ -11,9 +11,12 @@ class TRNIDOM_Document : public TRNIDOM_Node {
   /// The null handle.
   TRNIDOM_Document();
 
-  /// Throws the wrapper's exception for a name that is none, and on a null document. A `:` in the name and an attribute
-  /// named "xmlns" or "xmlns:xsi" have no meaning to the helpers, who write their prefixes as part of the names.
+  /// An element without attributes or children. Throws the wrapper's exception for a name that is none, and on a null
+  /// document. A `:` in the name and an attribute named "xmlns" or "xmlns:xsi" have no meaning to the helpers, who
+  /// write their prefixes as part of the names.
   TRNIDOM_Element createElement(const I18NString& tagName);
+
+  /// A text node, also for an empty text. Throws the wrapper's exception on a null document.
   TRNIDOM_Node createTextNode(const I18NString& data);
 
   /// A copy of a node of any document; children go along when `deep`. The node itself is not changed.

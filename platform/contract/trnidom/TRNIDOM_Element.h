@@ -23,6 +23,8 @@ class TRNIDOM_Element : public TRNIDOM_Node {
 
   /// The attribute's value; empty when it is absent.
   I18NString getAttribute(const I18NString& name) const;
+
+  /// Whether there is such an attribute, also an empty one.
   bool hasAttribute(const I18NString& name) const;
 
   /// Adds the attribute or replaces its value. Throws the wrapper's exception for a malformed name, on a null handle

@@ -25,6 +25,7 @@ class TRNIDOM_Helper {
   // document and appends it as the parent's last child. Finding or creating n children under one parent, one after the
   // other, should cost O(n) in all: 100,000 lines of a file are an ordinary document.
 
+  /// Matches on the name alone.
   static TRNIDOM_Element findOrCreateElement(const TRNIDOM_Node& parent, const I18NString& name);
 
   /// Matches on name and text together, so that different texts give siblings and a text written twice gives one

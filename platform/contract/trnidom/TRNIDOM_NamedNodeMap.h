@@ -8,6 +8,7 @@
 /// The attributes of an element, in no particular order. No helper asks for them today.
 class TRNIDOM_NamedNodeMap {
  public:
+  /// The number of attributes.
   std::size_t getLength() const;
 
   /// The attribute at that index; null past the end.

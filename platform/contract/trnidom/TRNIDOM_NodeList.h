@@ -10,10 +10,14 @@ class TRNIDOM_NodeList {
  public:
   /// The empty list.
   TRNIDOM_NodeList();
+  /// A list of the same nodes.
   TRNIDOM_NodeList(const TRNIDOM_NodeList& other);
+
+  /// Becomes a list of the same nodes.
   TRNIDOM_NodeList& operator=(const TRNIDOM_NodeList& other);
   ~TRNIDOM_NodeList();
 
+  /// The number of nodes as the tree is now.
   std::size_t getLength() const;
 
   /// The node at that index; null past the end. Asking for the indices in ascending order should cost time linear in
