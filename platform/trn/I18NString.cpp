@@ -18,46 +18,19 @@
 #include <unicode/ustring.h>
 #include <unicode/utf8.h>
 
-// How termination is kept. ICU holds a short text inside its object and a longer one in a counted buffer that copies
-// share. Every text is terminated when it is built, so a shared buffer always is; only a text inside the object has to
-// be terminated again when the object is copied or moved, because ICU copies no more than its characters.
-
 namespace {
 
 using icu::UnicodeString;
 
 constexpr char16_t kReplacement = 0xFFFD;
-/// A text shorter than this fits inside ICU's object together with its NUL.
-constexpr std::size_t kShortLength = (UNISTR_OBJECT_SIZE - sizeof(void*) - 2) / sizeof(char16_t);
 constexpr std::size_t kMaxLength = std::numeric_limits<std::int32_t>::max() - 1;
 
-UnicodeString& icuText(unsigned char* storage) noexcept {
-  return *std::launder(reinterpret_cast<UnicodeString*>(storage));
-}
-
-const UnicodeString& icuText(const unsigned char* storage) noexcept {
-  return *std::launder(reinterpret_cast<const UnicodeString*>(storage));
-}
-
-/// Whether the characters of a text are inside the object itself.
-bool isInside(const UnicodeString& text) noexcept {
-  const auto characters = reinterpret_cast<std::uintptr_t>(text.getBuffer());
-  return characters - reinterpret_cast<std::uintptr_t>(&text) < sizeof text;
-}
-
-/// Terminates a text whose characters are inside the object itself; there is room, for the text had a NUL where it
-/// came from.
-void terminateShort(UnicodeString& text) noexcept {
-  if (isInside(text)) const_cast<char16_t*>(text.getBuffer())[text.length()] = 0;
-}
-
-/// Copies fewer than kShortLength code units, by words of which the last ones may overlap: a call would cost more.
-inline void copyFew(unsigned char* to, const char16_t* text, std::size_t length) noexcept {
+/// Copies at most 32 code units, by words of which the last ones may overlap: a call would cost more.
+inline void copyFew(char16_t* to, const char16_t* from, std::size_t length) noexcept {
   const auto copy = [&](std::size_t at, std::size_t units) {
-    std::memcpy(to + at * sizeof(char16_t), text + at, units * sizeof(char16_t));
+    std::memcpy(to + at, from + at, units * sizeof(char16_t));
   };
   if (length >= 8) {
-    static_assert(kShortLength <= 32);
     copy(0, 8);
     if (length > 16) copy(8, 8);
     if (length > 24) copy(16, 8);
@@ -71,49 +44,6 @@ inline void copyFew(unsigned char* to, const char16_t* text, std::size_t length)
   } else if (length == 1) {
     copy(0, 1);
   }
-}
-
-/// A text of each short length. Texts are made and moved by the hundred thousand when a document is read, and most are
-/// short, so this is done by the bytes: ICU's object has no pointer into itself and nobody knows its address.
-class ShortTexts {
- public:
-  ShortTexts() {
-    for (std::size_t length = 0; length < kShortLength; ++length)
-      m_texts[length] = UnicodeString(0, u' ', static_cast<std::int32_t>(length));
-  }
-
-  void make(unsigned char* storage, const char16_t* text, std::size_t length) const noexcept {
-    std::memcpy(storage, static_cast<const void*>(&m_texts[length]), kHead);
-    copyFew(storage + kHead, text, length);
-    std::memset(storage + kHead + length * sizeof(char16_t), 0, sizeof(char16_t));
-  }
-
- private:
-  /// What the object has before its characters, which fill it to the end.
-  static constexpr std::size_t kHead = sizeof(UnicodeString) - kShortLength * sizeof(char16_t);
-
-  UnicodeString m_texts[kShortLength];
-};
-
-/// Never destroyed: texts are still made while static objects go.
-const ShortTexts& shortTexts() noexcept {
-  alignas(ShortTexts) static unsigned char place[sizeof(ShortTexts)];
-  static const auto* const theTexts = new (place) ShortTexts;
-  return *theTexts;
-}
-
-/// Makes the text that another was moved out of a proper empty one.
-void makeEmpty(UnicodeString& text) noexcept {
-  text.remove();
-  terminateShort(text);
-}
-
-/// Terminates a text that was changed.
-/// @throws std::bad_alloc when ICU had no memory for it; the text is empty then.
-void finish(UnicodeString& text) {
-  if (!text.isBogus() && text.getTerminatedBuffer() != nullptr) return;
-  makeEmpty(text);
-  throw std::bad_alloc();
 }
 
 /// Room to write a text of up to `length` code units; to be closed.
@@ -150,10 +80,9 @@ inline UChar32 nextUtf8(const char* bytes, std::size_t& at, std::size_t length) 
 }
 #pragma GCC diagnostic pop
 
-void assignUtf8(UnicodeString& text, const char* bytes, std::size_t length, const Listener& listener) {
-  // No sequence of bytes has more code units than bytes.
-  char16_t* const buffer = openBuffer(text, length);
-  char16_t* end = buffer;
+/// Converts to UTF-16, which has no more code units than there are bytes, and gives their number.
+std::size_t convertUtf8(const char* bytes, std::size_t length, const Listener& listener, char16_t* const out) {
+  char16_t* end = out;
   for (std::size_t at = 0; at < length;) {
     const std::size_t begin = at;
     UChar32 character = nextUtf8(bytes, at, length);
@@ -168,7 +97,7 @@ void assignUtf8(UnicodeString& text, const char* bytes, std::size_t length, cons
       *end++ = U16_TRAIL(character);
     }
   }
-  closeBuffer(text, buffer, static_cast<std::size_t>(end - buffer));
+  return static_cast<std::size_t>(end - out);
 }
 
 struct CloseConverter {
@@ -205,12 +134,12 @@ extern "C" void onMalformed(const void* context, UConverterToUnicodeArgs* args, 
   ucnv_cbToUWriteUChars(args, &kReplacement, 1, 0, status);
 }
 
-void assignConverted(UnicodeString& text, UConverter* converter, const char* bytes, std::size_t length,
-                     const Listener& listener) {
+UnicodeString converted(UConverter* converter, const char* bytes, std::size_t length, const Listener& listener) {
   ConversionListener target{listener, nullptr};
   UErrorCode status = U_ZERO_ERROR;
   ucnv_setToUCallBack(converter, onMalformed, &target, nullptr, nullptr, &status);
 
+  UnicodeString text;
   const char* const end = bytes + length;
   do {
     char16_t chunk[512];
@@ -222,15 +151,47 @@ void assignConverted(UnicodeString& text, UConverter* converter, const char* byt
   } while (status == U_BUFFER_OVERFLOW_ERROR);
   if (status == U_MEMORY_ALLOCATION_ERROR) throw std::bad_alloc();
   if (U_FAILURE(status)) throw std::runtime_error(std::string("text conversion failed: ") + u_errorName(status));
-  finish(text);
+  return text;
+}
+
+/// Makes room for that many code units and half as many more, since many texts grow by a little at a time.
+void reserveMore(UnicodeString& text, std::size_t needed) noexcept {
+  if (needed > kMaxLength || text.getCapacity() > static_cast<std::int64_t>(needed)) return;
+  const std::int32_t length = text.length();
+  const auto room = static_cast<std::int32_t>(std::min(needed + needed / 2, kMaxLength));
+  if (text.getBuffer(room) != nullptr) text.releaseBuffer(length);
 }
 
 }  // namespace
 
-I18NString::I18NString() noexcept {
-  static_assert(sizeof(m_storage) >= sizeof(UnicodeString) && alignof(I18NString) >= alignof(UnicodeString));
-  terminateShort(*new (m_storage) UnicodeString);
-}
+/// The text as ICU has it, when it is not short. Copies share its characters.
+struct I18NString::Long {
+  static UnicodeString& of(I18NString& text) noexcept {
+    return *std::launder(reinterpret_cast<UnicodeString*>(text.m_long));
+  }
+  static const UnicodeString& of(const I18NString& text) noexcept {
+    return *std::launder(reinterpret_cast<const UnicodeString*>(text.m_long));
+  }
+
+  /// Builds ICU's object in a short text.
+  template <typename Source>
+  static void build(I18NString& text, Source&& source) noexcept {
+    static_assert(sizeof(text.m_long) >= sizeof(UnicodeString) && alignof(I18NString) >= alignof(UnicodeString));
+    const UnicodeString& built = *new (text.m_long) UnicodeString(std::forward<Source>(source));
+    text.m_units = built.getBuffer();
+    text.m_length = static_cast<std::size_t>(built.length());
+  }
+
+  /// Gives an empty text the characters, short or long.
+  /// @throws std::bad_alloc when ICU had no memory for them.
+  static void assign(I18NString& text, UnicodeString&& characters) {
+    if (characters.isBogus() || characters.getTerminatedBuffer() == nullptr) throw std::bad_alloc();
+    const auto length = static_cast<std::size_t>(characters.length());
+    if (length > kShortLength) return build(text, std::move(characters));
+    copyFew(text.m_short, characters.getBuffer(), length + 1);
+    text.m_length = length;
+  }
+};
 
 // Once the empty text is there, whatever throws below leaves nothing behind.
 I18NString::I18NString(const char* text, const char* encoding, long length, ConversionCallback callback, void* context)
@@ -241,83 +202,124 @@ I18NString::I18NString(const char* text, const char* encoding, long length, Conv
 
   const std::size_t size = length < 0 ? std::strlen(text) : static_cast<std::size_t>(length);
   const Listener listener{callback, context};
-  if (!converter || ucnv_getType(converter.get()) == UCNV_UTF8) {
-    assignUtf8(icuText(m_storage), text, size, listener);
+  if (converter && ucnv_getType(converter.get()) != UCNV_UTF8) {
+    Long::assign(*this, converted(converter.get(), text, size, listener));
+  } else if (size <= kShortLength) {
+    const std::size_t units = convertUtf8(text, size, listener, m_short);
+    m_short[units] = u'\0';
+    m_length = units;
   } else {
-    assignConverted(icuText(m_storage), converter.get(), text, size, listener);
+    UnicodeString characters;
+    char16_t* const buffer = openBuffer(characters, size);
+    closeBuffer(characters, buffer, convertUtf8(text, size, listener, buffer));
+    Long::assign(*this, std::move(characters));
   }
 }
 
 I18NString::I18NString(std::u16string_view text) {
-  if (text.size() < kShortLength) {
-    shortTexts().make(m_storage, text.data(), text.size());
+  if (text.size() <= kShortLength) {
+    copyFew(m_short, text.data(), text.size());
+    m_short[text.size()] = u'\0';
+    m_length = text.size();
     return;
   }
-  UnicodeString& target = *new (m_storage) UnicodeString;  // holds nothing when there is no memory for more
-  char16_t* const buffer = openBuffer(target, text.size());
+  makeLong(text);
+}
+
+void I18NString::makeLong(std::u16string_view text) {
+  UnicodeString characters;
+  char16_t* const buffer = openBuffer(characters, text.size());
   std::copy_n(text.data(), text.size(), buffer);
-  closeBuffer(target, buffer, text.size());
+  closeBuffer(characters, buffer, text.size());
+  Long::assign(*this, std::move(characters));
 }
 
 I18NString::I18NString(const I18NString& other) {
-  const UnicodeString& text = icuText(other.m_storage);
-  // A short text is copied by the words that it was made with: whole, it would have to wait for them.
-  if (isInside(text))
-    shortTexts().make(m_storage, text.getBuffer(), static_cast<std::size_t>(text.length()));
-  else
-    new (m_storage) UnicodeString(text);
+  copy(other);
 }
 
 I18NString::I18NString(I18NString&& other) noexcept {
-  const UnicodeString& text = icuText(other.m_storage);
-  if (isInside(text))
-    shortTexts().make(m_storage, text.getBuffer(), static_cast<std::size_t>(text.length()));
-  else
-    std::memcpy(m_storage, other.m_storage, sizeof(UnicodeString));
-  terminateShort(*new (other.m_storage) UnicodeString);
+  move(other);
 }
 
 I18NString& I18NString::operator=(const I18NString& other) {
   if (this == &other) return *this;
-  icuText(m_storage) = icuText(other.m_storage);
-  terminateShort(icuText(m_storage));
+  makeEmpty();
+  copy(other);
   return *this;
 }
 
 I18NString& I18NString::operator=(I18NString&& other) noexcept {
   if (this == &other) return *this;
-  icuText(m_storage) = std::move(icuText(other.m_storage));
-  terminateShort(icuText(m_storage));
-  makeEmpty(icuText(other.m_storage));
+  makeEmpty();
+  move(other);
   return *this;
 }
 
-I18NString::~I18NString() {
-  UnicodeString& text = icuText(m_storage);
-  if (!isInside(text)) text.~UnicodeString();  // otherwise it holds nothing
+/// Of a short text, and another such.
+inline void I18NString::copyShort(const I18NString& other) noexcept {
+  copyFew(m_short, other.m_short, other.m_length + 1);
+  m_length = other.m_length;
 }
 
-std::size_t I18NString::length() const noexcept {
-  return static_cast<std::size_t>(icuText(m_storage).length());
+/// Of a short text.
+void I18NString::copy(const I18NString& other) noexcept {
+  if (other.isShort())
+    copyShort(other);
+  else
+    Long::build(*this, Long::of(other));
 }
 
-const char16_t* I18NString::c_str() const noexcept {
-  return icuText(m_storage).getBuffer();
+/// Of a short text.
+void I18NString::move(I18NString& other) noexcept {
+  if (other.isShort()) {
+    copyShort(other);
+    other.m_length = 0;
+    other.m_short[0] = u'\0';
+  } else {
+    Long::build(*this, std::move(Long::of(other)));
+    other.makeEmpty();
+  }
 }
 
-std::u16string_view I18NString::view() const noexcept {
-  const UnicodeString& text = icuText(m_storage);
-  return {text.getBuffer(), static_cast<std::size_t>(text.length())};
+void I18NString::freeLong() noexcept {
+  Long::of(*this).~UnicodeString();
+}
+
+void I18NString::makeEmpty() noexcept {
+  if (!isShort()) freeLong();
+  m_units = m_short;
+  m_length = 0;
+  m_short[0] = u'\0';
+}
+
+bool I18NString::startsWith(const char16_t* units, std::size_t length) const noexcept {
+  // Most are short names, for which a call of memcmp costs as much as the comparison.
+  constexpr std::size_t kWord = sizeof(std::uint64_t) / sizeof(char16_t);
+  const auto same = [&](std::size_t at) {
+    std::uint64_t ours;
+    std::uint64_t theirs;
+    std::memcpy(&ours, m_units + at, sizeof ours);
+    std::memcpy(&theirs, units + at, sizeof theirs);
+    return ours == theirs;
+  };
+  if (length < kWord) {
+    for (std::size_t at = 0; at < length; ++at)
+      if (m_units[at] != units[at]) return false;
+    return true;
+  }
+  for (std::size_t at = 0; at < length - kWord; at += kWord)
+    if (!same(at)) return false;
+  return same(length - kWord);
 }
 
 std::string I18NString::toUtf8() const {
-  const UnicodeString& text = icuText(m_storage);
-  std::string result(length(), '\0');  // exact for ASCII
+  std::string result(m_length, '\0');  // exact for ASCII
   for (;;) {
     UErrorCode status = U_ZERO_ERROR;
     std::int32_t needed = 0;
-    u_strToUTF8WithSub(result.data(), static_cast<std::int32_t>(result.size()), &needed, text.getBuffer(),
-                       text.length(), kReplacement, nullptr, &status);
+    u_strToUTF8WithSub(result.data(), static_cast<std::int32_t>(result.size()), &needed, m_units,
+                       static_cast<std::int32_t>(m_length), kReplacement, nullptr, &status);
     if (U_FAILURE(status) && status != U_BUFFER_OVERFLOW_ERROR) throw std::bad_alloc();
     result.resize(static_cast<std::size_t>(needed));
     if (U_SUCCESS(status)) return result;
@@ -325,31 +327,21 @@ std::string I18NString::toUtf8() const {
 }
 
 I18NString& I18NString::operator+=(const I18NString& other) {
-  UnicodeString& text = icuText(m_storage);
-  const std::int32_t length = text.length();
-  const std::int64_t needed = std::int64_t{length} + static_cast<std::int64_t>(other.length()) + 1;
-  if (needed > text.getCapacity() && needed <= static_cast<std::int64_t>(kMaxLength)) {
-    // Room for more, since many texts grow by a little at a time; terminating one makes just enough for the NUL.
-    const std::int64_t room = std::min(needed + needed / 2, static_cast<std::int64_t>(kMaxLength));
-    if (text.getBuffer(static_cast<std::int32_t>(room)) != nullptr) text.releaseBuffer(length);
+  if (this == &other) return *this += I18NString(other);
+  const std::size_t length = m_length + other.m_length;
+  if (length <= kShortLength) {
+    copyFew(m_short + m_length, other.m_short, other.m_length + 1);
+    m_length = length;
+    return *this;
   }
-  text.append(icuText(other.m_storage));
-  finish(text);
+  UnicodeString characters;
+  if (!isShort()) characters = std::move(Long::of(*this));
+  reserveMore(characters, length);
+  if (isShort()) characters.append(m_short, static_cast<std::int32_t>(m_length));
+  makeEmpty();
+  characters.append(other.m_units, static_cast<std::int32_t>(other.m_length));
+  Long::assign(*this, std::move(characters));
   return *this;
-}
-
-bool I18NString::equals(const I18NString& other) const noexcept {
-  const std::u16string_view left = view();
-  const std::u16string_view right = other.view();
-  if (left.size() != right.size()) return false;
-  // Most are short names, for which a call of memcmp costs as much as the comparison.
-  for (std::size_t i = 0; i < left.size(); ++i)
-    if (left[i] != right[i]) return false;
-  return true;
-}
-
-bool I18NString::precedes(const I18NString& other) const noexcept {
-  return icuText(m_storage).compare(icuText(other.m_storage)) < 0;
 }
 
 std::ostream& operator<<(std::ostream& out, const I18NString& text) {
@@ -357,5 +349,5 @@ std::ostream& operator<<(std::ostream& out, const I18NString& text) {
 }
 
 std::size_t std::hash<I18NString>::operator()(const I18NString& text) const noexcept {
-  return std::hash<std::u16string_view>()(std::u16string_view(text.c_str(), text.length()));
+  return std::hash<std::u16string_view>()(text.view());
 }

@@ -24,7 +24,7 @@ class TRN_API I18NString {
   using ConversionCallback = void (*)(void* context, const char* bytes, std::size_t length);
 
   /// The empty text.
-  I18NString() noexcept;
+  I18NString() noexcept { m_short[0] = u'\0'; }
 
   /// Converts 8-bit text. Null text is empty.
   /// @param text      the bytes; not kept.
@@ -55,19 +55,22 @@ class TRN_API I18NString {
 
   /// Leaves the other text empty, but for an assignment to itself, which changes nothing.
   I18NString& operator=(I18NString&& other) noexcept;
-  ~I18NString();
+
+  ~I18NString() {
+    if (!isShort()) freeLong();
+  }
 
   /// Whether the text has no code unit.
-  bool empty() const noexcept { return length() == 0; }
+  bool empty() const noexcept { return m_length == 0; }
 
   /// Length in UTF-16 code units.
-  std::size_t length() const noexcept;
+  std::size_t length() const noexcept { return m_length; }
 
   /// The text as NUL-terminated UTF-16, valid while this object is unchanged.
-  const char16_t* c_str() const noexcept;
+  const char16_t* c_str() const noexcept { return m_units; }
 
   /// The same with its length; a NUL follows.
-  std::u16string_view view() const noexcept;
+  std::u16string_view view() const noexcept { return {m_units, m_length}; }
 
   /// The text as UTF-8; a lone surrogate becomes U+FFFD.
   std::string toUtf8() const;
@@ -83,20 +86,38 @@ class TRN_API I18NString {
     return result;
   }
   /// Whether both have the same code units.
-  friend bool operator==(const I18NString& left, const I18NString& right) noexcept { return left.equals(right); }
+  friend bool operator==(const I18NString& left, const I18NString& right) noexcept {
+    return left.m_length == right.m_length && left.startsWith(right.m_units, right.m_length);
+  }
 
   /// Whether they differ in a code unit.
-  friend bool operator!=(const I18NString& left, const I18NString& right) noexcept { return !left.equals(right); }
+  friend bool operator!=(const I18NString& left, const I18NString& right) noexcept { return !(left == right); }
 
   /// A total order by UTF-16 code unit.
-  friend bool operator<(const I18NString& left, const I18NString& right) noexcept { return left.precedes(right); }
+  friend bool operator<(const I18NString& left, const I18NString& right) noexcept { return left.view() < right.view(); }
 
  private:
-  bool equals(const I18NString& other) const noexcept;
-  bool precedes(const I18NString& other) const noexcept;
+  struct Long;
 
-  // ICU's string object, built in place; the source asserts that it fits.
-  alignas(8) unsigned char m_storage[64];
+  static constexpr std::size_t kShortLength = 31;
+
+  bool isShort() const noexcept { return m_length <= kShortLength; }
+  bool startsWith(const char16_t* units, std::size_t length) const noexcept;
+  [[gnu::noinline]] void makeLong(std::u16string_view text);  // apart, so that a short text is made with few registers
+  void copyShort(const I18NString& other) noexcept;
+  void copy(const I18NString& other) noexcept;
+  void move(I18NString& other) noexcept;
+  void freeLong() noexcept;
+  void makeEmpty() noexcept;
+
+  // The characters, which end with a NUL. Those of a short text are in the object itself; for a longer one there is
+  // ICU's string object instead, built in place; the source asserts that it fits.
+  const char16_t* m_units = m_short;
+  std::size_t m_length = 0;
+  union {
+    char16_t m_short[kShortLength + 1];
+    alignas(8) unsigned char m_long[64];
+  };
 };
 
 /// Writes the text as UTF-8; a lone surrogate becomes U+FFFD.
