@@ -98,12 +98,18 @@ TRNIDOM_Document newDocument() {
 // Making nodes.
 
 const Name* Document::validName(Text name) {
-  if (const Name* recent = m_names.findRecent(name)) return recent;
-  if (const Name* shared = shared_names::find(name)) return m_names.adopt(shared);
+  const std::size_t quick = quickHash(name);
+  if (const Name* recent = m_names.findRecent(name, quick)) return recent;
+  if (const Name* shared = shared_names::find(name, quick)) return m_names.adopt(shared, quick);
+  return checkedName(name, quick);
+}
+
+/// One that the process may meet for the first time.
+const Name* Document::checkedName(Text name, std::size_t quick) {
   if (m_names.find(name) == nullptr && !isXmlName(name))
     throw Refusal{TRNIDOM_DOMException::INVALID_CHARACTER_ERR, quotedName(stringOf(name).toUtf8()) + " is no XML name"};
-  const Name* const shared = shared_names::keep(name);
-  return shared != nullptr ? m_names.adopt(shared) : m_names.intern(name);
+  const Name* const shared = shared_names::keep(name, quick);
+  return shared != nullptr ? m_names.adopt(shared, quick) : m_names.intern(name);
 }
 
 template <typename Made>

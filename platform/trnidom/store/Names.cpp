@@ -54,28 +54,37 @@ const Name* Names::findInTable(Text name, std::size_t hash) const noexcept {
   return nullptr;
 }
 
+/// The document's own name, found by the hash that names have.
+const Name* Names::findEqual(const Name* name) const noexcept {
+  if (!m_table.empty()) return findInTable(name->text(), name->hash);
+  for (std::size_t i = 0; i < m_count; ++i)
+    if (m_few[i]->hash == name->hash && m_few[i]->is(name->text())) return m_few[i];
+  return nullptr;
+}
+
 const Name* Names::intern(Text name) {
-  if (const Name* recent = findRecent(name)) return recent;
-  if (const Name* known = findAmongAll(name)) return m_recent[slot(name)] = known;
+  const std::size_t quick = quickHash(name);
+  if (const Name* recent = findRecent(name, quick)) return recent;
+  if (const Name* known = findAmongAll(name)) return m_recent[quick % kRecent] = known;
   constexpr std::size_t kLongest = UINT32_MAX / 3;
   if (name.size() > kLongest) throw std::bad_alloc();
   const std::size_t utf8 = Name::utf8LengthOf(name);
-  return add(Name::make(m_arena.allocate(Name::sizeFor(name, utf8)), name, utf8));
+  return add(Name::make(m_arena.allocate(Name::sizeFor(name, utf8)), name, utf8), quick);
 }
 
-const Name* Names::adopt(const Name* name) {
-  const Name* const known = m_table.empty() ? findAmongAll(name->text()) : findInTable(name->text(), name->hash);
-  return known != nullptr ? m_recent[slot(name->text())] = known : add(name);
+const Name* Names::adopt(const Name* name, std::size_t quick) {
+  const Name* const known = findEqual(name);
+  return known != nullptr ? m_recent[quick % kRecent] = known : add(name, quick);
 }
 
 /// Adds a name that is not there.
-const Name* Names::add(const Name* name) {
+const Name* Names::add(const Name* name, std::size_t quick) {
   if (m_count < kFew)
     m_few[m_count] = name;
   else
     addToTable(name);
   ++m_count;
-  return m_recent[slot(name->text())] = name;
+  return m_recent[quick % kRecent] = name;
 }
 
 void Names::addToTable(const Name* name) {

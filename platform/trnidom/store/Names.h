@@ -36,6 +36,14 @@ struct Name {
   static const Name* make(void* memory, Text text, std::size_t utf8Length) noexcept;
 };
 
+/// Where caches look for a name: what tells most names apart, without a walk through them.
+inline std::size_t quickHash(Text name) noexcept {
+  if (name.empty()) return 0;
+  const std::size_t middle = name.size() / 2;
+  return name.size() * 97 + name.front() + std::size_t{name[middle / 2]} * 29 + std::size_t{name[middle]} * 151 +
+         std::size_t{name.back()} * 421;
+}
+
 /// The names of one document. A few are looked through one by one; more are in a hash table.
 class Names {
  public:
@@ -45,13 +53,13 @@ class Names {
 
   /// The name, or null when no node ever had it. Writes nothing.
   const Name* find(Text name) const noexcept {
-    const Name* recent = findRecent(name);
+    const Name* recent = findRecent(name, quickHash(name));
     return recent != nullptr ? recent : findAmongAll(name);
   }
 
   /// Like `find`, but looks only among the recent names.
-  const Name* findRecent(Text name) const noexcept {
-    const Name* recent = m_recent[slot(name)];
+  const Name* findRecent(Text name, std::size_t quick) const noexcept {
+    const Name* recent = m_recent[quick % kRecent];
     return recent != nullptr && recent->is(name) ? recent : nullptr;
   }
 
@@ -60,29 +68,24 @@ class Names {
   const Name* intern(Text name);
 
   /// The document's own name that equals this one; this one itself, which outlives the document, when it is new.
+  /// @param quick  the name's quick hash.
   /// @throws std::bad_alloc
-  const Name* adopt(const Name* name);
+  const Name* adopt(const Name* name, std::size_t quick);
 
  private:
   static constexpr std::size_t kFew = 16;
   static constexpr std::size_t kRecent = 64;
 
-  /// The place of a name in the direct-mapped cache of recent names.
-  static std::size_t slot(Text name) noexcept {
-    if (name.empty()) return 0;
-    return (name.size() * 7 + name.front() + std::size_t{name[name.size() / 2]} * 5 + std::size_t{name.back()} * 3) %
-           kRecent;
-  }
-
   const Name* findAmongAll(Text name) const noexcept;
   const Name* findInTable(Text name, std::size_t hash) const noexcept;
-  const Name* add(const Name* name);
+  const Name* findEqual(const Name* name) const noexcept;
+  const Name* add(const Name* name, std::size_t quick);
   void addToTable(const Name* name);
 
   Arena& m_arena;
-  std::array<const Name*, kRecent> m_recent{};
-  std::array<const Name*, kFew> m_few;  // the first names, while there are no more
-  std::vector<const Name*> m_table;     // open addressing, null where free
+  std::array<const Name*, kRecent> m_recent{};  // a direct-mapped cache, by quick hash
+  std::array<const Name*, kFew> m_few;          // the first names, while there are no more
+  std::vector<const Name*> m_table;             // open addressing, null where free
   std::size_t m_count = 0;
 };
 

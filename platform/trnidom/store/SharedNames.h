@@ -1,6 +1,8 @@
 #ifndef TRNIDOM_STORE_SHAREDNAMES_H
 #define TRNIDOM_STORE_SHAREDNAMES_H
 
+#include <cstddef>
+
 #include "store/Names.h"
 #include "text/Text.h"
 
@@ -9,11 +11,11 @@
 /// are only parsed do not come here. Safe from any thread, without a lock.
 namespace trnidom_detail::shared_names {
 
-/// The name, or null when it is not kept. A name that is kept is valid.
-const Name* find(Text name) noexcept;
+/// The name of that quick hash, or null when it is not kept. A name that is kept is valid.
+const Name* find(Text name, std::size_t quick) noexcept;
 
 /// Keeps a valid name if there is room for it, and gives it; null when there is none.
-const Name* keep(Text name) noexcept;
+const Name* keep(Text name, std::size_t quick) noexcept;
 
 }  // namespace trnidom_detail::shared_names
 

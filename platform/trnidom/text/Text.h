@@ -24,16 +24,22 @@ inline I18NString stringOf(Text text) {
 /// Whether two texts of that length are the same, which are mostly short.
 inline bool areEqual(const char16_t* left, const char16_t* right, std::size_t length) noexcept {
   constexpr std::size_t kUnits = sizeof(std::uint64_t) / sizeof(char16_t);
-  for (; length >= kUnits; length -= kUnits, left += kUnits, right += kUnits) {
+  if (length < kUnits) {
+    for (std::size_t at = 0; at < length; ++at)
+      if (left[at] != right[at]) return false;
+    return true;
+  }
+  // Four code units at a time, and once more the last four.
+  const auto same = [left, right](std::size_t at) {
     std::uint64_t first;
     std::uint64_t second;
-    std::memcpy(&first, left, sizeof first);
-    std::memcpy(&second, right, sizeof second);
-    if (first != second) return false;
-  }
-  for (; length != 0; --length)
-    if (*left++ != *right++) return false;
-  return true;
+    std::memcpy(&first, left + at, sizeof first);
+    std::memcpy(&second, right + at, sizeof second);
+    return first == second;
+  };
+  for (std::size_t at = 0; at < length - kUnits; at += kUnits)
+    if (!same(at)) return false;
+  return same(length - kUnits);
 }
 
 /// Whether the text has the character U+0000.
