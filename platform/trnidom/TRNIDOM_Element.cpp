@@ -34,9 +34,7 @@ I18NString TRNIDOM_Element::getAttribute(const I18NString& name) const {
   const Element* element = elementOf(*this);
   if (element == nullptr) return {};
   const Attribute* attribute = Access::document(*this)->attribute(element, textOf(name));
-  if (attribute == nullptr) return {};
-  std::u16string joined;
-  return stringOf(valueOf(attribute, joined));
+  return attribute != nullptr ? valueOf(attribute) : I18NString();
 }
 
 bool TRNIDOM_Element::hasAttribute(const I18NString& name) const {

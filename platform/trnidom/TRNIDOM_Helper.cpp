@@ -71,20 +71,8 @@ TRNIDOM_Element TRNIDOM_Helper::findOrCreateElementWithAttribute(const TRNIDOM_N
 }
 
 I18NString TRNIDOM_Helper::getElementText(const TRNIDOM_Node& element) {
-  if (element.getNodeType() != TRNIDOM_Node::ELEMENT_NODE) return {};
-  const Node* first = nullptr;
-  std::u16string all;  // of several, which is rare
-  for (const ChildNode* child = firstListed(Access::node(element)); child != nullptr; child = child->following()) {
-    if (!isText(child)) continue;
-    if (first == nullptr) {
-      first = child;
-      continue;
-    }
-    if (all.empty()) all = ownValue(first);
-    all += ownValue(child);
-  }
-  if (first == nullptr) return {};
-  return stringOf(all.empty() ? ownValue(first) : Text(all));
+  const Node* node = Access::node(element);
+  return node != nullptr && isElement(node) ? joinedText(firstListed(node)) : I18NString();
 }
 
 void TRNIDOM_Helper::getElementText(const TRNIDOM_Node& element, I18NString& out) {

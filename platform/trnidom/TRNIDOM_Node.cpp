@@ -48,9 +48,7 @@ unsigned short TRNIDOM_Node::getNodeType() const noexcept {
 }
 
 I18NString TRNIDOM_Node::getNodeValue() const {
-  if (isNull()) return {};
-  std::u16string joined;
-  return stringOf(valueOf(m_node, joined));
+  return isNull() ? I18NString() : valueOf(m_node);
 }
 
 TRNIDOM_Node TRNIDOM_Node::getParentNode() const noexcept {

@@ -3,8 +3,8 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string>
 
+#include <trn/I18NString.h>
 #include <trnidom/TRNIDOM_Node.h>
 
 #include "store/Names.h"
@@ -165,17 +165,15 @@ inline Text ownValue(const Node* node) noexcept {
   return {units, holder->length};
 }
 
-/// The value of any node; `joined` holds it when it has to be put together.
+/// The texts and CDATA sections among a node and its siblings after it, joined.
 /// @throws std::bad_alloc
-inline Text valueOf(const Node* node, std::u16string& joined) {
+I18NString joinedText(const ChildNode* first);
+
+/// The value of any node.
+/// @throws std::bad_alloc
+inline I18NString valueOf(const Node* node) {
   if (!hasValue(node)) return {};
-  if (!node->has(Node::kHasChildList)) return ownValue(node);
-  const ChildNode* const first = firstListed(node);
-  if (first == nullptr) return {};
-  if (first->next == nullptr) return ownValue(first);
-  joined.clear();
-  for (const ChildNode* child = first; child != nullptr; child = child->following()) joined += ownValue(child);
-  return joined;
+  return node->has(Node::kHasChildList) ? joinedText(firstListed(node)) : stringOf(ownValue(node));
 }
 
 /// The name that a node was given; null for a kind of node that is given none.
