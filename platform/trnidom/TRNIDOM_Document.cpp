@@ -11,7 +11,8 @@ namespace {
 
 /// The document when the handle stands on it, or null.
 Document* documentOf(const TRNIDOM_Node& handle) noexcept {
-  return handle.getNodeType() == TRNIDOM_Node::DOCUMENT_NODE ? Access::document(handle) : nullptr;
+  const Node* node = Access::node(handle);
+  return node != nullptr && node->type == trnidom_detail::Node::kDocument ? Access::document(handle) : nullptr;
 }
 
 Document* requireDocument(const TRNIDOM_Node& handle) {

@@ -46,6 +46,7 @@ Node* TRNIDOM_NodeList::at(std::size_t index) const {
   const std::uint64_t structure = document.structureVersion();
   // What is appended to the root leaves the children before it where they are.
   const std::uint64_t order = m_kind == kChildren ? document.orderVersion() : structure;
+  if (index == m_index && m_nodeVersion == order && m_node != nullptr) return m_node;
   if (m_nodeVersion != order || (m_node == nullptr && m_lengthVersion != structure)) {
     m_nodeVersion = order;
     start();
