@@ -14,10 +14,4 @@ void readChildText(const TRNIDOM_Node& parent, const I18NString& name, I18NStrin
   if (!child.isNull()) TRNIDOM_Helper::getElementText(child, text);
 }
 
-TRNIDOM_Element firstNamed(TRNIDOM_Node node, const I18NString& name) {
-  // Of the nodes of another kind only a processing instruction could have the name.
-  while (!node.isNull() && !(node.getNodeName() == name && isElement(node))) node = node.getNextSibling();
-  return node;
-}
-
 }  // namespace dxmd

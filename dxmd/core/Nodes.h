@@ -27,7 +27,11 @@ TRNIDOM_Node firstText(const TRNIDOM_Node& parent);
 void readChildText(const TRNIDOM_Node& parent, const I18NString& name, I18NString& text);
 
 /// The node, or the first sibling after it, that is an element of that name; null when there is none.
-TRNIDOM_Element firstNamed(TRNIDOM_Node node, const I18NString& name);
+inline TRNIDOM_Element firstNamed(TRNIDOM_Node node, const I18NString& name) {
+  // Of the nodes of another kind only a processing instruction could have the name.
+  while (!node.isNull() && !(node.getNodeName() == name && isElement(node))) node = node.getNextSibling();
+  return node;
+}
 
 /// For a loop over the children that are elements of one name.
 class ChildElements {

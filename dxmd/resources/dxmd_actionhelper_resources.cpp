@@ -37,7 +37,8 @@ std::array<std::atomic<const I18NString*>, std::size(kTexts)> entries;
 
 TRNThreadCriticalSection dxmd_actionhelper_resources_lock(0);
 
-const I18NString& build(std::size_t index) {
+// Not inlined: finding an entry that is there, which is done for every name written, then needs no stack.
+[[gnu::noinline]] const I18NString& build(std::size_t index) {
   const TRNThreadGuard guard(dxmd_actionhelper_resources_lock);
   const I18NString* entry = entries[index].load(std::memory_order_relaxed);
   if (entry == nullptr) {
