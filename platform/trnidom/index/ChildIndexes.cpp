@@ -88,14 +88,7 @@ Element* ChildIndexes::find(Node* parent, const ChildKey& key) {
     drop(parent);
     throw;
   }
-  const HashBuckets::Bucket* bucket = index.buckets.find(hashOf(key));
-  if (bucket == nullptr) return nullptr;
-  if (matches(bucket->first, key)) return bucket->first;
-  if (bucket->rest != nullptr) {  // the hashes of two keys are the same
-    for (Element* other : *bucket->rest)
-      if (matches(other, key)) return other;
-  }
-  return nullptr;
+  return index.buckets.find(hashOf(key), [&key](const Element* element) { return matches(element, key); });
 }
 
 ChildIndexes::Index& ChildIndexes::indexFor(Node* parent, Parent& record, const ChildKey& key) {

@@ -1,48 +1,46 @@
 #include "index/HashBuckets.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace trnidom_detail {
 
-const HashBuckets::Bucket* HashBuckets::find(std::size_t hash) const noexcept {
-  if (m_slots.empty()) return nullptr;
-  const Bucket& bucket = m_slots[slotOf(hash)];
-  return bucket.first != nullptr ? &bucket : nullptr;
-}
-
 void HashBuckets::enter(std::size_t hash, Element* element) {
   if (m_used >= m_slots.size() / 2) grow();
-  Bucket& bucket = m_slots[slotOf(hash)];
-  if (bucket.first == nullptr) {
-    bucket.hash = hash;
-    bucket.first = element;
+  Slot& slot = m_slots[slotOf(hash)];
+  if (slot.first == nullptr) {
+    slot = {hash, element};
     ++m_used;
     return;
   }
-  if (bucket.rest == nullptr) bucket.rest = std::make_unique<std::set<Element*, ByNumber>>();
-  auto& rest = *bucket.rest;
-  if (!ByNumber()(element, bucket.first)) {
+  Rest& rest = m_rest[hash];
+  if (!ByNumber()(element, slot.first)) {
     rest.insert(rest.end(), element);
   } else {
-    rest.insert(rest.begin(), bucket.first);
-    bucket.first = element;
+    rest.insert(rest.begin(), slot.first);
+    slot.first = element;
   }
 }
 
 void HashBuckets::erase(std::size_t hash, Element* element) noexcept {
   if (m_slots.empty()) return;
   const std::size_t at = slotOf(hash);
-  Bucket& bucket = m_slots[at];
-  if (bucket.first == nullptr) return;
-  if (bucket.first != element) {
-    if (bucket.rest != nullptr) bucket.rest->erase(element);
-  } else if (bucket.rest != nullptr && !bucket.rest->empty()) {
-    bucket.first = *bucket.rest->begin();
-    bucket.rest->erase(bucket.rest->begin());
+  Slot& slot = m_slots[at];
+  if (slot.first == nullptr) return;
+  const auto found = m_rest.find(hash);
+  if (found == m_rest.end()) {
+    if (slot.first == element) freeSlot(at);
+    return;
+  }
+  Rest& rest = found->second;
+  if (slot.first != element) {
+    rest.erase(element);
+  } else if (!rest.empty()) {
+    slot.first = *rest.begin();
+    rest.erase(rest.begin());
   } else {
     freeSlot(at);
   }
+  if (rest.empty()) m_rest.erase(found);
 }
 
 /// The slot that has the hash, or the free one where it would go.
@@ -55,10 +53,10 @@ std::size_t HashBuckets::slotOf(std::size_t hash) const noexcept {
 
 void HashBuckets::grow() {
   constexpr std::size_t kFirst = 64;
-  std::vector<Bucket> slots(std::max(kFirst, m_slots.size() * 2));
+  std::vector<Slot> slots(std::max(kFirst, m_slots.size() * 2));
   m_slots.swap(slots);
-  for (Bucket& bucket : slots)
-    if (bucket.first != nullptr) m_slots[slotOf(bucket.hash)] = std::move(bucket);
+  for (const Slot& slot : slots)
+    if (slot.first != nullptr) m_slots[slotOf(slot.hash)] = slot;
 }
 
 /// Frees a slot and moves those behind it that the gap would hide.
@@ -68,10 +66,10 @@ void HashBuckets::freeSlot(std::size_t at) noexcept {
   for (std::size_t next = (at + 1) & mask; m_slots[next].first != nullptr; next = (next + 1) & mask) {
     const std::size_t home = m_slots[next].hash & mask;
     if (((next - home) & mask) < ((next - at) & mask)) continue;
-    m_slots[at] = std::move(m_slots[next]);
+    m_slots[at] = m_slots[next];
     at = next;
   }
-  m_slots[at] = Bucket();
+  m_slots[at] = Slot();
 }
 
 }  // namespace trnidom_detail

@@ -104,12 +104,15 @@ const Name* Document::validName(Text name) {
   return checkedName(name, quick);
 }
 
-/// One that the process may meet for the first time.
+/// One that programs have not created before, as far as that is kept.
 const Name* Document::checkedName(Text name, std::size_t quick) {
-  if (m_names.find(name) == nullptr && !isXmlName(name))
-    throw Refusal{TRNIDOM_DOMException::INVALID_CHARACTER_ERR, quotedName(stringOf(name).toUtf8()) + " is no XML name"};
-  const Name* const shared = shared_names::keep(name, quick);
-  return shared != nullptr ? m_names.adopt(shared, quick) : m_names.intern(name);
+  return m_names.findOrAdd(name, quick, [&](std::size_t hash) {
+    if (!isXmlName(name))
+      throw Refusal{TRNIDOM_DOMException::INVALID_CHARACTER_ERR,
+                    quotedName(stringOf(name).toUtf8()) + " is no XML name"};
+    const Name* const shared = shared_names::keep(name, quick, hash);
+    return shared != nullptr ? shared : m_names.make(name, hash);
+  });
 }
 
 template <typename Made>

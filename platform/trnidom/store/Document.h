@@ -97,7 +97,7 @@ class Document final : public TRNIDOM_HandleCount {
   ~Document() = default;
 
   const Name* validName(Text name);
-  [[gnu::cold]] const Name* checkedName(Text name, std::size_t quick);
+  [[gnu::noinline]] const Name* checkedName(Text name, std::size_t quick);
 
   // Without checks.
   template <typename Made>

@@ -28,12 +28,13 @@ struct Name {
     return length == name.size() && areEqual(text().data(), name.data(), name.size());
   }
 
+  static std::size_t hashOf(Text text) noexcept;
   static std::size_t utf8LengthOf(Text text) noexcept;
   static std::size_t sizeFor(Text text, std::size_t utf8Length) noexcept {
     return sizeof(Name) + text.size() * sizeof(char16_t) + utf8Length;
   }
-  /// A name in memory of that size.
-  static const Name* make(void* memory, Text text, std::size_t utf8Length) noexcept;
+  /// A name of that hash, in memory of that size.
+  static const Name* make(void* memory, Text text, std::size_t hash, std::size_t utf8Length) noexcept;
 };
 
 /// Where caches look for a name: what tells most names apart, without a walk through them.
@@ -67,25 +68,43 @@ class Names {
   /// @throws std::bad_alloc
   const Name* intern(Text name);
 
+  /// The name, whose quick hash is given; a new one is what `makeNew(hash)` gives.
+  /// @throws std::bad_alloc
+  template <typename MakeNew>
+  const Name* findOrAdd(Text name, std::size_t quick, MakeNew makeNew) {
+    const std::size_t hash = Name::hashOf(name);
+    const Name* known = findHashed(name, hash);
+    if (known == nullptr) known = add(makeNew(hash));
+    return m_recent[quick % kRecent] = known;
+  }
+
+  /// A name in the document's memory, not yet one of these.
+  /// @throws std::bad_alloc
+  const Name* make(Text name, std::size_t hash);
+
   /// The document's own name that equals this one; this one itself, which outlives the document, when it is new.
   /// @param quick  the name's quick hash.
   /// @throws std::bad_alloc
   const Name* adopt(const Name* name, std::size_t quick);
 
  private:
+  struct Slot {
+    std::size_t hash = 0;
+    const Name* name = nullptr;  // null in a free slot
+  };
+
   static constexpr std::size_t kFew = 16;
   static constexpr std::size_t kRecent = 64;
 
   const Name* findAmongAll(Text name) const noexcept;
-  const Name* findInTable(Text name, std::size_t hash) const noexcept;
-  const Name* findEqual(const Name* name) const noexcept;
-  const Name* add(const Name* name, std::size_t quick);
+  const Name* findHashed(Text name, std::size_t hash) const noexcept;
+  const Name* add(const Name* name);
   void addToTable(const Name* name);
 
   Arena& m_arena;
   std::array<const Name*, kRecent> m_recent{};  // a direct-mapped cache, by quick hash
   std::array<const Name*, kFew> m_few;          // the first names, while there are no more
-  std::vector<const Name*> m_table;             // open addressing, null where free
+  std::vector<Slot> m_table;                    // open addressing
   std::size_t m_count = 0;
 };
 

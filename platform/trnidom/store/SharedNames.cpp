@@ -22,14 +22,14 @@ const Name* find(Text name, std::size_t quick) noexcept {
   return kept != nullptr && kept->is(name) ? kept : nullptr;
 }
 
-const Name* keep(Text name, std::size_t quick) noexcept {
+const Name* keep(Text name, std::size_t quick, std::size_t hash) noexcept {
   if (name.size() > kLongest) return nullptr;
   std::atomic<const Name*>& slot = theNames[quick % kSlots];
   if (slot.load(std::memory_order_relaxed) != nullptr) return nullptr;
   const std::size_t utf8 = Name::utf8LengthOf(name);
   void* const memory = ::operator new(Name::sizeFor(name, utf8), std::nothrow);
   if (memory == nullptr) return nullptr;
-  const Name* const made = Name::make(memory, name, utf8);
+  const Name* const made = Name::make(memory, name, hash, utf8);
   const Name* expected = nullptr;
   if (slot.compare_exchange_strong(expected, made, std::memory_order_acq_rel)) return made;
   ::operator delete(memory);

@@ -14,8 +14,8 @@ namespace trnidom_detail::shared_names {
 /// The name of that quick hash, or null when it is not kept. A name that is kept is valid.
 const Name* find(Text name, std::size_t quick) noexcept;
 
-/// Keeps a valid name if there is room for it, and gives it; null when there is none.
-const Name* keep(Text name, std::size_t quick) noexcept;
+/// Keeps a valid name, whose hashes are given, if there is room for it, and gives it; null when there is none.
+const Name* keep(Text name, std::size_t quick, std::size_t hash) noexcept;
 
 }  // namespace trnidom_detail::shared_names
 
