@@ -94,6 +94,8 @@ class CommandLine {
     addOutput(*m_schema);
     // Last, since verbs would inherit it: what is no verb ends up here, where it can be told what the verbs are.
     m_app.allow_extras();
+    // Behind one verb, the name of another is an argument: a file may be called "schema".
+    m_app.require_subcommand(0, 1);
   }
   CommandLine(const CommandLine&) = delete;
   CommandLine& operator=(const CommandLine&) = delete;
@@ -161,6 +163,7 @@ class CommandLine {
     }
     // An unknown kind ends up here, where it can be told what the kinds are.
     app->allow_extras();
+    app->require_subcommand(0, 1);
     return app;
   }
 
@@ -184,7 +187,7 @@ class CommandLine {
   }
 
   void addOutput(CLI::App& app) {
-    app.add_option("--output", m_settings.output,
+    app.add_option("-o,--output", m_settings.output,
                    "Write this file, whole or not at all; \"-\" is standard output, as by default")
         ->option_text("FILE");
   }

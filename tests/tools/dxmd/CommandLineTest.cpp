@@ -65,6 +65,12 @@ TEST(CommandLine, OptionsStandBeforeOrBehindTheKind) {
   EXPECT_EQ(before, behind);
 }
 
+TEST(CommandLine, FileMayBearTheNameOfAVerbOrKind) {
+  for (const char* name : {"schema", "kinds", "execute"})
+    expectFailure(kStatusFile, name + std::string(": cannot be read: No such file or directory"),
+                  run({"decode", "response", name}));
+}
+
 TEST(CommandLine, HelpListsStatusesKindsAndNotes) {
   const ToolRun help = run({"--help"});
   EXPECT_EQ(0, help.status);
@@ -221,10 +227,12 @@ TEST(CommandLine, OutputIsWrittenWholeOrNotAtAll) {
   const ToolRun good = run({"encode", "closeConnections", "--output", out}, "{}");
   EXPECT_EQ("", good.out);
   EXPECT_EQ(run({"encode", "closeConnections"}, "{}").out, bytesOf(out));
+  EXPECT_EQ(0, run({"encode", "-o", folder.path("short.xml"), "closeConnections"}, "{}").status);
+  EXPECT_EQ(bytesOf(out), bytesOf(folder.path("short.xml")));
   EXPECT_EQ(1, run({"encode", "closeConnections", "--output", out}, R"({"x": 1})").status);
   EXPECT_EQ(run({"encode", "closeConnections"}, "{}").out, bytesOf(out));
   EXPECT_EQ(3, run({"encode", "closeConnections", "--output", folder.path("no/out")}, "{}").status);
-  EXPECT_EQ(std::vector<std::string>{"out.xml"}, folder.names());
+  EXPECT_EQ((std::vector<std::string>{"out.xml", "short.xml"}), folder.names());
 }
 
 TEST(CommandLine, FileThatCannotBeReadIsStatus3) {
