@@ -18,6 +18,10 @@
 #include <tools/dxmd/Registry.h>
 #include <tools/dxmd/ToolError.h>
 #include <tools/dxmd/Verbs.h>
+#include <tools/dxmd/help/BashCompletion.h>
+#include <tools/dxmd/help/Grammar.h>
+#include <tools/dxmd/help/HelpTexts.h>
+#include <tools/dxmd/help/ManualPage.h>
 #include <tools/dxmd/json/Quote.h>
 #include <tools/dxmd/json/SecretNames.h>
 #include <tools/dxmd/text/Escape.h>
@@ -29,42 +33,7 @@ namespace {
 
 const char* const kDescription = "Encodes and decodes the messages between the modelling client and its services.";
 
-const char* const kFooter =
-    R"(FILE absent or "-" is standard input.
-
-Exit status:
-  0  done
-  1  the input does not fit the kind: the message names the place in the JSON, as in
-     $.queries[2].dataItems[0].sort, or the check that failed
-  2  wrong usage
-  3  a file cannot be read or written
-  4  the input is not well-formed XML or JSON: the message names file, line and column
-  5  out of memory
-
-Passwords, passports, tickets and the like print as *** in what is decoded and are in no error text.
-XML that is written holds them: it is the message itself, in a file that only its owner can read.
-
-Examples:
-  dxmd kinds execute
-  dxmd example execute | dxmd encode execute --indent 2
-  dxmd decode response reply.xml --format table)";
-
 const char* const kVerbFooter = R"(FILE absent or "-" is standard input. The options and notes of a kind: dxmd )";
-
-/// Help whose usage says what stands behind the command's name.
-class UsageFormatter : public CLI::Formatter {
- public:
-  explicit UsageFormatter(std::string usage) : m_usage(std::move(usage)) {}
-
-  std::string make_usage(const CLI::App*, std::string) const override { return "Usage: " + m_usage + "\n"; }
-
- private:
-  std::string m_usage;
-};
-
-void setUsage(CLI::App& app, const std::string& usage) {
-  app.formatter(std::make_shared<UsageFormatter>("dxmd " + usage));
-}
 
 /// The command line: its grammar, and what it asked for once parsed.
 class CommandLine {
@@ -72,7 +41,7 @@ class CommandLine {
   CommandLine() : m_app(kDescription, "dxmd") {
     m_app.set_version_flag("--version", "dxmd " DXMD_VERSION);
     m_app.set_help_flag("-h,--help", "Print help and exit; there is more for each verb and each kind");
-    m_app.footer(kFooter);
+    m_app.footer(helpFooter());
     setUsage(m_app, "VERB [OPTIONS] ...");
     m_encode = addVerb("encode", "Read JSON, write the message as XML", KindOption::kEncode);
     m_decode = addVerb("decode", "Read XML, write what the message holds as JSON", KindOption::kDecode);
@@ -92,6 +61,18 @@ class CommandLine {
     m_schema->footer("");
     setUsage(*m_schema, "schema [OPTIONS] KIND");
     addOutput(*m_schema);
+    m_help = m_app.add_subcommand("help", "Print the help of a verb, of a verb with a kind, or of a kind");
+    m_help->add_option("VERB", m_helpVerb, "The verb")->option_text(" ");
+    m_help->add_option("KIND", m_kindName, "The kind of message")->option_text(" ");
+    CLI::Option* const manual = m_help->add_flag("--man", m_manual, "Print the manual page, for man -l");
+    manual->option_text(" ");
+    m_help
+        ->add_flag("--bash", m_completion, "Print what has bash complete command lines, for source <(dxmd help --bash)")
+        ->excludes(manual)
+        ->option_text(" ");
+    m_help->footer("");
+    setUsage(*m_help, "help [OPTIONS] [VERB] [KIND]");
+    addOutput(*m_help);
     // Last, since verbs would inherit it: what is no verb ends up here, where it can be told what the verbs are.
     m_app.allow_extras();
     // Behind one verb, the name of another is an argument: a file may be called "schema".
@@ -223,10 +204,31 @@ class CommandLine {
 
   /// What there is to say of kinds.
   std::string description() const {
+    if (m_help->parsed()) return requestedHelp();
     if (m_example->parsed()) return findKind(m_kindName).example + "\n";
     if (m_schema->parsed()) return schema(findKind(m_kindName));
     if (m_kindName.empty()) return m_json ? describeAllForPrograms() : listKinds();
     return m_json ? describeForPrograms(findKind(m_kindName)) : describe(findKind(m_kindName));
+  }
+
+  /// What `dxmd help` asks for.
+  std::string requestedHelp() const {
+    if (m_manual) return manualPage(grammarOf(m_app), DXMD_VERSION);
+    if (m_completion) return bashCompletion(grammarOf(m_app));
+    if (m_helpVerb.empty()) return helpOf(m_app);
+    const CLI::App* const verb = commandOf(m_app, m_helpVerb);
+    if (verb == nullptr && m_kindName.empty() && isKind(m_helpVerb)) return describe(findKind(m_helpVerb));
+    if (verb == nullptr) failUnknownVerb(m_helpVerb);
+    if (m_kindName.empty()) return helpOf(*verb);
+    const CLI::App* const kind = commandOf(*verb, findKind(m_kindName).name);
+    if (kind == nullptr) failUnexpected(m_kindName);
+    return helpOf(*kind);
+  }
+
+  /// The subcommand of that name; null when there is none.
+  static const CLI::App* commandOf(const CLI::App& app, const std::string& name) {
+    const auto found = app.get_subcommands([&](const CLI::App* below) { return below->get_name() == name; });
+    return found.empty() ? nullptr : found[0];
   }
 
   /// Refuses anything but one verb.
@@ -234,10 +236,27 @@ class CommandLine {
     const std::vector<std::string> extras = m_app.remaining();
     const bool hasVerb = !m_app.get_subcommands().empty();
     if (!extras.empty() && (hasVerb || isOption(extras[0]))) failUnexpected(extras[0]);
-    if (!extras.empty())
-      fail(inQuotes(extras[0]) + " is no verb; the verbs are encode, decode, kinds, example and schema" +
-           didYouMean(extras[0], {"encode", "decode", "kinds", "example", "schema"}));
-    if (!hasVerb) fail("a verb is needed: encode, decode, kinds, example or schema");
+    if (!extras.empty()) failUnknownVerb(extras[0]);
+    if (!hasVerb) fail("a verb is needed: " + listed(verbs(), "or"));
+  }
+
+  std::vector<std::string> verbs() const {
+    std::vector<std::string> names;
+    for (const CLI::App* verb : m_app.get_subcommands({})) names.push_back(verb->get_name());
+    return names;
+  }
+
+  /// The names as a sentence has them: "a, b or c".
+  static std::string listed(const std::vector<std::string>& names, const std::string& last) {
+    std::string text;
+    for (std::size_t i = 0; i < names.size(); ++i)
+      text += (i == 0 ? "" : i + 1 < names.size() ? ", " : " " + last + " ") + names[i];
+    return text;
+  }
+
+  [[noreturn]] void failUnknownVerb(const std::string& name) const {
+    if (isKind(name)) fail(inQuotes(name) + " is a kind of message, and a verb is needed: " + listed(verbs(), "or"));
+    fail(inQuotes(name) + " is no verb; the verbs are " + listed(verbs(), "and") + didYouMean(name, verbs()));
   }
 
   /// The kind that the verb was given.
@@ -247,6 +266,12 @@ class CommandLine {
     if (!extras.empty() && (!kinds.empty() || isOption(extras[0]))) failUnexpected(extras[0]);
     if (extras.empty() && kinds.empty()) fail("a kind of message is needed");
     return findKind(kinds.empty() ? extras[0] : kinds[0]->get_name());
+  }
+
+  static bool isKind(const std::string& name) {
+    const std::vector<Kind>& kinds = allKinds();
+    return std::any_of(kinds.begin(), kinds.end(),
+                       [&](const Kind& kind) { return lowerCase(kind.name) == lowerCase(name); });
   }
 
   static bool isOption(const std::string& argument) { return argument.compare(0, 1, "-") == 0; }
@@ -271,9 +296,13 @@ class CommandLine {
   CLI::App* m_kinds;
   CLI::App* m_example;
   CLI::App* m_schema;
+  CLI::App* m_help;
   Settings m_settings;
   std::string m_queryServiceNamespace;
   std::string m_kindName;
+  std::string m_helpVerb;
+  bool m_manual = false;
+  bool m_completion = false;
   bool m_json = false;
   std::map<std::string, std::string> m_kindValues;
 };

@@ -41,9 +41,10 @@ TEST(CommandLine, WrongUsageIsStatus2) {
   expectFailure(kStatusUsage, "--query-service-namespace: must not be empty (see dxmd encode execute --help)",
                 run({"encode", "execute", "--query-service-namespace", ""}, "{}"));
   EXPECT_EQ(2, run({"encode", "execute", "--query-service-namespace="}, "{}").status);
-  expectFailure(kStatusUsage, "a verb is needed: encode, decode, kinds, example or schema (see dxmd --help)", run({}));
+  expectFailure(kStatusUsage, "a verb is needed: encode, decode, kinds, example, schema or help (see dxmd --help)",
+                run({}));
   expectFailure(kStatusUsage,
-                "\"foo\" is no verb; the verbs are encode, decode, kinds, example and schema (see dxmd --help)",
+                "\"foo\" is no verb; the verbs are encode, decode, kinds, example, schema and help (see dxmd --help)",
                 run({"foo"}));
   expectFailure(kStatusUsage, "a kind of message is needed (see dxmd encode --help)", run({"encode"}));
   expectFailure(kStatusUsage, "unexpected argument \"--x\" (see dxmd encode execute --help)",
@@ -79,6 +80,21 @@ TEST(CommandLine, HelpListsStatusesKindsAndNotes) {
   EXPECT_TRUE(has(run({"decode", "response", "--help"}).out, "--format"));
   EXPECT_TRUE(has(run({"kinds", "response"}).out, "--format"));
   EXPECT_EQ("dxmd " DXMD_VERSION "\n", run({"--version"}).out);
+}
+
+TEST(CommandLine, HelpIsAVerbToo) {
+  EXPECT_EQ(run({"--help"}).out, run({"help"}).out);
+  EXPECT_EQ(run({"decode", "--help"}).out, run({"help", "decode"}).out);
+  EXPECT_EQ(run({"kinds", "--help"}).out, run({"help", "kinds"}).out);
+  EXPECT_EQ(run({"decode", "response", "--help"}).out, run({"help", "decode", "Response"}).out);
+  EXPECT_EQ(run({"kinds", "response"}).out, run({"help", "response"}).out);
+  EXPECT_TRUE(has(run({"help", "decoed"}).err, "\"decoed\" is no verb; "));
+  expectFailure(kStatusUsage, "unexpected argument \"response\" (see dxmd help --help)",
+                run({"help", "kinds", "response"}));
+  expectFailure(kStatusUsage,
+                "\"response\" is a kind of message, and a verb is needed: encode, decode, kinds, example, schema or "
+                "help (see dxmd --help)",
+                run({"response"}));
 }
 
 TEST(CommandLine, WhatIsMistypedIsSuggested) {
