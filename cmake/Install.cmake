@@ -32,4 +32,7 @@ install_pkgconfig(dxmd-actionhelper DXMD_ActionHelper "${PROJECT_DESCRIPTION}" "
 
 if(DXMD_BUILD_TOOL)
   install(TARGETS dxmd)
+  get_target_property(pages dxmd BINARY_DIR)
+  install(FILES ${pages}/dxmd.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+  install(FILES ${pages}/completion.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME dxmd)
 endif()
