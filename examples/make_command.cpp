@@ -10,6 +10,8 @@
 #include <dxmd/queryframework/QFExecuteCommandHelper.h>
 #include <dxmd/queryservice/QsApiConnectHelper.h>
 
+#include "errors.h"
+
 namespace {
 
 // A helper is filled through its setters; `Make` hands back the element that it wrote.
@@ -35,9 +37,7 @@ void addRevenueQuery(QFExecuteCommandHelper& command) {
   query->AddHint(QFQueryHelper::kQueryHintMaxRowsRetrieved, "500");
 }
 
-}  // namespace
-
-int main() {
+void printCommand() {
   DXNamespaces::SetQueryService("urn:dxmd:query-service:api:1");  // the deployment's own, once
 
   const I18NLocale locale("en");  // must live until `Make` has returned
@@ -50,4 +50,10 @@ int main() {
   TRNIDOM_Element envelope;
   command.Make(envelope);
   std::cout << TRNIDOM_Writer::toString(envelope) << "\n";
+}
+
+}  // namespace
+
+int main() {
+  return exitStatus("make_command", printCommand);
 }

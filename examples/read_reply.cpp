@@ -1,17 +1,16 @@
 // Reads a reply to an execute command from a file and prints its columns and rows, separated by tabs.
 
-#include <exception>
 #include <iostream>
 #include <map>
 #include <vector>
 
-#include <trn/TRNAssertError.h>
 #include <trnidom/TRNIDOM_Document.h>
 #include <trnidom/TRNIDOM_Element.h>
-#include <trnidom/TRNIDOM_ParseError.h>
 #include <trnidom/TRNIDOM_Parser.h>
 
 #include <dxmd/queryframework/QFResponseDomHelper.h>
+
+#include "errors.h"
 
 namespace {
 
@@ -32,7 +31,7 @@ void printReply(const char* path) {
   std::vector<std::map<QFResponseDomHelper::EColumnProp, I18NString>> columns;
   reply.GetColumnList(columns);
   std::vector<I18NString> names;
-  for (const auto& column : columns) names.push_back(column.at(QFResponseDomHelper::kColumnPropName));
+  for (auto& column : columns) names.push_back(column[QFResponseDomHelper::kColumnPropName]);
   printLine(names);
 
   TRNIDOM_Element row = reply.GetFirstResultSetRow();
@@ -51,15 +50,5 @@ int main(int argc, char** argv) {
     std::cerr << "usage: read_reply FILE\n";
     return 2;
   }
-  try {
-    printReply(argv[1]);
-    return 0;
-  } catch (const TRNIDOM_ParseError& error) {  // not well-formed, or no such file
-    std::cerr << argv[1] << ":" << error.what() << "\n";
-  } catch (const TRNAssertError& error) {  // well-formed, but not what the reader requires
-    std::cerr << argv[1] << ": " << error.what() << "\n";
-  } catch (const std::exception& error) {
-    std::cerr << error.what() << "\n";
-  }
-  return 1;
+  return exitStatus(argv[1], [&] { printReply(argv[1]); });
 }
