@@ -73,6 +73,7 @@ class CommandLine {
     m_help->footer("");
     setUsage(*m_help, "help [OPTIONS] [VERB] [KIND]");
     addOutput(*m_help);
+    for (CLI::App* verb : m_app.get_subcommands([](const CLI::App*) { return true; })) verb->group("Verbs");
     // Last, since verbs would inherit it: what is no verb ends up here, where it can be told what the verbs are.
     m_app.allow_extras();
     // Behind one verb, the name of another is an argument: a file may be called "schema".

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Completes command lines as bash would with the script that the program DXMD prints.
 set -euo pipefail
-dxmd=$1
+dxmd=$(realpath "$1")
 export LC_ALL=C
 
 # shellcheck source=/dev/null
@@ -34,7 +34,7 @@ lines() { # HEADING: the names below it in help
   sed -nE "/^$1:/,/^\$/s/^  ([^ ]+).*/\1/p" | sort | paste -sd ' '
 }
 
-expect "$("$dxmd" --help | lines Subcommands)" ''
+expect "$("$dxmd" --help | lines Verbs)" ''
 expect "$("$dxmd" kinds | sed 's/ .*//' | sort | paste -sd ' ')" encode ''
 expect "$("$dxmd" help encode execute | lines Options | sed 's/[, ]/\n/g' | sort | paste -sd ' ')" encode execute -
 expect 'decode' dec

@@ -27,7 +27,7 @@ named() { # LINES OF HELP BELOW HEADING...
 }
 
 help=$("$dxmd" --help)
-verbs=$(named Subcommands <<<"$help")
+verbs=$(named Verbs <<<"$help")
 kinds=$("$dxmd" kinds | sed 's/ .*//')
 [ -n "$verbs" ] && [ -n "$kinds" ]
 options=$(
