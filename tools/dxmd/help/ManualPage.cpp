@@ -27,6 +27,28 @@ bool isLower(char c) {
   return std::islower(static_cast<unsigned char>(c)) != 0;
 }
 
+/// The character as troff is to print it: some are its own syntax, others it prints as typographic ones.
+std::string plain(char c) {
+  switch (c) {
+    case '\\':
+      return "\\e";
+    case '-':
+      return "\\-";
+    case '\'':
+      return "\\(aq";
+    case '"':
+      return "\\(dq";
+    case '`':
+      return "\\(ga";
+    case '^':
+      return "\\(ha";
+    case '~':
+      return "\\(ti";
+    default:
+      return {c};
+  }
+}
+
 /// Text for troff. A line of the input is a line of the source, none of which is a request.
 std::string plain(const std::string& text) {
   std::string escaped;
@@ -34,18 +56,7 @@ std::string plain(const std::string& text) {
   for (const char c : text) {
     if (atStart && (c == '.' || c == '\'')) escaped += "\\&";
     atStart = c == '\n';
-    if (c == '\\')
-      escaped += "\\e";
-    else if (c == '-')
-      escaped += "\\-";
-    else if (c == '\'')
-      escaped += "\\(aq";
-    else if (c == '"')
-      escaped += "\\(dq";
-    else if (c == '`' || c == '^' || c == '~')
-      escaped += c == '`' ? "\\(ga" : c == '^' ? "\\(ha" : "\\(ti";
-    else
-      escaped += c;
+    escaped += plain(c);
   }
   return escaped;
 }
@@ -60,7 +71,7 @@ std::string typed(const std::string& text) {
     const bool isSyntax = text[i] == '[' || text[i] == ']' || text[i] == '|' || text[i] == '.';
     if (isPlace != inPlace) markup += isPlace ? "\\fI" : "\\fB";
     inPlace = isPlace;
-    markup += isSyntax ? "\\fR" + std::string(1, text[i]) + (isPlace ? "\\fI" : "\\fB") : plain({text[i]});
+    markup += isSyntax ? "\\fR" + std::string(1, text[i]) + (isPlace ? "\\fI" : "\\fB") : plain(text[i]);
   }
   return markup + "\\fR";
 }
