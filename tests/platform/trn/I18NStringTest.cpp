@@ -43,10 +43,11 @@ struct Malformed {
   throw std::domain_error("refused");
 }
 
-// Texts around the length where characters no longer fit into the object: 27 or 29 code units with the NUL.
+// Texts around the length where characters no longer fit into the object: 32 code units with the NUL.
 std::vector<std::u16string> textsOfAllSizes() {
   std::vector<std::u16string> texts;
-  for (std::size_t length : {0U, 1U, 25U, 26U, 27U, 28U, 29U, 30U, 31U, 1000U}) texts.emplace_back(length, u'\u20AC');
+  for (std::size_t length = 0; length < 40; ++length) texts.emplace_back(length, u'\u20AC');
+  texts.emplace_back(1000, u'\u20AC');
   return texts;
 }
 
@@ -207,6 +208,18 @@ TEST(I18NString, ComparesAndHashesExactly) {
   const std::unordered_set<I18NString> names{"query", "queries", "query"};
   EXPECT_EQ(2U, names.size());
   EXPECT_EQ(1U, names.count(fromUtf16(u"queries")));
+}
+
+TEST(I18NString, DiffersWhereverOneCodeUnitDiffers) {
+  for (const std::u16string& units : textsOfAllSizes()) {
+    const I18NString text = fromUtf16(units);
+    EXPECT_EQ(text, fromUtf16(units));
+    for (std::size_t at = 0; at < units.size(); ++at) {
+      std::u16string other = units;
+      other[at] = static_cast<char16_t>(other[at] ^ 0x100);
+      ASSERT_NE(text, fromUtf16(other)) << "at " << at << " of " << units.size();
+    }
+  }
 }
 
 TEST(I18NString, WritesUtf8) {
