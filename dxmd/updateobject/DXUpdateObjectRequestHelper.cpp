@@ -4,6 +4,7 @@
 #include <dxmd/updateobject/DXUpdateObjectRequestHelper.h>
 
 #include <cstddef>
+#include <new>
 #include <utility>
 
 #include <trn/TRNAssert.h>
@@ -165,15 +166,20 @@ void DXUpdateRequestTaskHelper::doTake(TRNIDOM_Element& elem) {
 }
 
 void DXUpdateRequestTaskHelper::parseParameters() {
-  for (const TRNIDOM_Node& nodeTemp : DescendantElements(m_taskElement, STR_param)) {
-    TRN_ASSERT(nodeTemp.getNodeType() == TRNIDOM_Node::ELEMENT_NODE);
-    const TRNIDOM_Element param = nodeTemp;
-    const EParameter eParam = ToParameter(param.getAttribute(STR_name));
-    TRN_ASSERT(eParam != kParamUnknown);
-    if (param.hasAttribute(STR_value))
-      AddParameter(eParam, param.getAttribute(STR_value), param.getAttribute(STR_locale));
-    else
-      AddParameter(eParam, subtreeOf(param));
+  try {
+    for (const TRNIDOM_Node& nodeTemp : DescendantElements(m_taskElement, STR_param)) {
+      TRN_ASSERT(nodeTemp.getNodeType() == TRNIDOM_Node::ELEMENT_NODE);
+      const TRNIDOM_Element param = nodeTemp;
+      const EParameter eParam = ToParameter(param.getAttribute(STR_name));
+      TRN_ASSERT(eParam != kParamUnknown);
+      if (param.hasAttribute(STR_value))
+        AddParameter(eParam, param.getAttribute(STR_value), param.getAttribute(STR_locale));
+      else
+        AddParameter(eParam, subtreeOf(param));
+    }
+  } catch (const std::bad_alloc&) {
+    m_parameters.clear();  // so that the next call parses them all
+    throw;
   }
 }
 
@@ -198,23 +204,31 @@ bool DXUpdateRequestTaskHelper::ContainsIDs(const TRNIDOM_Element& param) {
 }
 
 bool DXUpdateRequestTaskHelper::GetNextIDParameters(std::vector<I18NString>& vIDs) {
-  vIDs.clear();
-  TRNIDOM_Element param = idCrap_elmCurrIDParam.isNull() ? TRNIDOM_Helper::findFirstElement(m_taskElement, STR_param)
-                                                         : idCrap_elmCurrIDParam.getNextSibling();
-  while (!param.isNull() && !(isElement(param) && param.getNodeName() == STR_param && ContainsIDs(param)))
-    param = param.getNextSibling();
-  if (param.isNull()) return false;
+  const TRNIDOM_Element cursorBefore = idCrap_elmCurrIDParam;
+  const I18NString propertyTypeBefore = m_currentPropertyType;
+  try {
+    vIDs.clear();
+    TRNIDOM_Element param = idCrap_elmCurrIDParam.isNull() ? TRNIDOM_Helper::findFirstElement(m_taskElement, STR_param)
+                                                           : idCrap_elmCurrIDParam.getNextSibling();
+    while (!param.isNull() && !(isElement(param) && param.getNodeName() == STR_param && ContainsIDs(param)))
+      param = param.getNextSibling();
+    if (param.isNull()) return false;
 
-  idCrap_elmCurrIDParam = param;
-  if (param.hasAttribute(STR_value)) {
-    vIDs.push_back(param.getAttribute(STR_value));
+    idCrap_elmCurrIDParam = param;
+    if (param.hasAttribute(STR_value)) {
+      vIDs.push_back(param.getAttribute(STR_value));
+      return true;
+    }
+    for (const TRNIDOM_Node& ref : DescendantElements(subtreeOf(param), STR_refobj)) {
+      const TRNIDOM_Node text = firstText(ref);
+      if (!text.isNull()) vIDs.push_back(text.getNodeValue());
+    }
     return true;
+  } catch (const std::bad_alloc&) {
+    idCrap_elmCurrIDParam = cursorBefore;  // so that the next call passes nothing over
+    m_currentPropertyType = propertyTypeBefore;
+    throw;
   }
-  for (const TRNIDOM_Node& ref : DescendantElements(subtreeOf(param), STR_refobj)) {
-    const TRNIDOM_Node text = firstText(ref);
-    if (!text.isNull()) vIDs.push_back(text.getNodeValue());
-  }
-  return true;
 }
 
 void DXUpdateRequestTaskHelper::UpdateCurrentIDParameters(const std::vector<I18NString>& vIDs) {

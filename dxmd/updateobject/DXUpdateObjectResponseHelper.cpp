@@ -3,6 +3,7 @@
 
 #include <dxmd/updateobject/DXUpdateObjectResponseHelper.h>
 
+#include <new>
 #include <utility>
 
 #include <trn/TRNAssert.h>
@@ -118,12 +119,17 @@ void DXUpdateResponseTaskHelper::take(const TRNIDOM_Element& elem, const TRNIDOM
 }
 
 void DXUpdateResponseTaskHelper::parseParameters() {
-  for (const TRNIDOM_Node& nodeTemp : DescendantElements(m_taskElement, STR_param)) {
-    TRN_ASSERT(nodeTemp.getNodeType() == TRNIDOM_Node::ELEMENT_NODE);
-    const TRNIDOM_Element param = nodeTemp;
-    const EParameter eParam = ToParameter(param.getAttribute(STR_name));
-    TRN_ASSERT(eParam != kParamUnknown);
-    AddParameter(eParam, param.getAttribute(STR_value));
+  try {
+    for (const TRNIDOM_Node& nodeTemp : DescendantElements(m_taskElement, STR_param)) {
+      TRN_ASSERT(nodeTemp.getNodeType() == TRNIDOM_Node::ELEMENT_NODE);
+      const TRNIDOM_Element param = nodeTemp;
+      const EParameter eParam = ToParameter(param.getAttribute(STR_name));
+      TRN_ASSERT(eParam != kParamUnknown);
+      AddParameter(eParam, param.getAttribute(STR_value));
+    }
+  } catch (const std::bad_alloc&) {
+    m_parameters.clear();  // so that the next call parses them all
+    throw;
   }
 }
 
