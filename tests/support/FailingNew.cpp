@@ -1,14 +1,12 @@
 #include "FailingNew.h"
 
-#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <cstdlib>
-#include <cstring>
 #include <exception>
 #include <new>
 
 #include <gtest/gtest.h>
-#include <malloc.h>
 #include <unicode/uclean.h>
 
 namespace {
@@ -28,31 +26,44 @@ bool failsNow() noexcept {
   return number >= firstToFail && number <= lastToFail && firstToFail != kNever;
 }
 
+// A block of `new` keeps its size in front of itself.
+constexpr std::size_t kHeader = alignof(std::max_align_t);
+
 void* allocate(std::size_t size) noexcept {
   if (failsNow() || bytes > mostBytes - static_cast<std::ptrdiff_t>(size)) return nullptr;
-  void* const block = std::malloc(size == 0 ? 1 : size);
-  if (block != nullptr) ++blocks;
-  bytes += static_cast<std::ptrdiff_t>(malloc_usable_size(block));
-  return block;
+  void* const block = std::malloc(kHeader + size);
+  if (block == nullptr) return nullptr;
+  ++blocks;
+  bytes += static_cast<std::ptrdiff_t>(size);
+  *static_cast<std::size_t*>(block) = size;
+  return static_cast<char*>(block) + kHeader;
 }
 
-void release(void* block) noexcept {
-  if (block != nullptr) --blocks;
-  bytes -= static_cast<std::ptrdiff_t>(malloc_usable_size(block));
+void release(void* memory) noexcept {
+  if (memory == nullptr) return;
+  void* const block = static_cast<char*>(memory) - kHeader;
+  --blocks;
+  bytes -= static_cast<std::ptrdiff_t>(*static_cast<std::size_t*>(block));
   std::free(block);
 }
 
+// ICU's blocks are counted without their sizes: it has some from before.
 void replaceIcuMemory() {
-  const auto icuAllocate = [](const void*, std::size_t size) { return allocate(size); };
-  const auto icuReallocate = [](const void*, void* block, std::size_t size) {
-    if (block == nullptr) return allocate(size);
-    void* const grown = allocate(size);
-    if (grown == nullptr) return grown;
-    std::memcpy(grown, block, std::min(size, malloc_usable_size(block)));
-    release(block);
+  const auto icuAllocate = [](const void*, std::size_t size) -> void* {
+    void* const block = failsNow() ? nullptr : std::malloc(size);
+    if (block != nullptr) ++blocks;
+    return block;
+  };
+  const auto icuReallocate = [](const void*, void* block, std::size_t size) -> void* {
+    if (failsNow()) return nullptr;
+    void* const grown = std::realloc(block, size);
+    if (block == nullptr && grown != nullptr) ++blocks;
     return grown;
   };
-  const auto icuRelease = [](const void*, void* block) { release(block); };
+  const auto icuRelease = [](const void*, void* block) {
+    if (block != nullptr) --blocks;
+    std::free(block);
+  };
   UErrorCode status = U_ZERO_ERROR;
   u_setMemoryFunctions(nullptr, icuAllocate, icuReallocate, icuRelease, &status);
   ASSERT_TRUE(U_SUCCESS(status));
@@ -126,6 +137,10 @@ std::size_t withEachAllocationFailing(const std::function<void()>& action) {
   }
   EXPECT_TRUE(run(kNever, kNever, action).succeeded) << "after all these failures";
   return undisturbed.allocations;
+}
+
+std::ptrdiff_t allocatedBytes() {
+  return bytes;
 }
 
 bool failsWithin(std::size_t most, const std::function<void()>& action) {

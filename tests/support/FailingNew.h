@@ -18,6 +18,9 @@ void withEachNewFailing(const std::function<void()>& action);
 /// allocations of an undisturbed run.
 std::size_t withEachAllocationFailing(const std::function<void()>& action);
 
+/// What this thread has taken from `new` and not given back.
+std::ptrdiff_t allocatedBytes();
+
 /// Runs the action with no more than that many bytes at a time, beyond what was allocated before. Whether it ended in
 /// std::bad_alloc.
 bool failsWithin(std::size_t bytes, const std::function<void()>& action);
