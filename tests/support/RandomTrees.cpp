@@ -10,7 +10,9 @@
 #include <trn/TRNAssertError.h>
 #include <trnidom/TRNIDOM_DOMException.h>
 #include <trnidom/TRNIDOM_Document.h>
+#include <trnidom/TRNIDOM_NamedNodeMap.h>
 #include <trnidom/TRNIDOM_Node.h>
+#include <trnidom/TRNIDOM_NodeList.h>
 
 #include "TestSupport.h"
 
@@ -75,7 +77,23 @@ class RandomTree {
   TRNIDOM_Node m_root;
 };
 
+void collectWords(const TRNIDOM_Node& node, TreeWords& words) {
+  if (node.getNodeType() != TRNIDOM_Node::ELEMENT_NODE) return words.texts.push_back(node.getNodeValue().toUtf8());
+  words.elements.push_back(node.getNodeName().toUtf8());
+  for (const TRNIDOM_Node& attribute : node.getAttributes()) {
+    words.attributes.push_back(attribute.getNodeName().toUtf8());
+    words.texts.push_back(attribute.getNodeValue().toUtf8());
+  }
+  for (const TRNIDOM_Node& child : node.getChildNodes()) collectWords(child, words);
+}
+
 }  // namespace
+
+TreeWords wordsOf(const TRNIDOM_Element& example) {
+  TreeWords words{{"x"}, {}, {"a"}};
+  collectWords(example, words);
+  return words;
+}
 
 unsigned printedSeed() {
   const char* fixed = std::getenv("DXMD_TEST_SEED");

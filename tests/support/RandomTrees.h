@@ -20,6 +20,9 @@ struct TreeWords {
   std::vector<std::string> texts;  ///< also the values of attributes; the empty text is always among them
 };
 
+/// The words of an example, as often as they stand in it.
+TreeWords wordsOf(const TRNIDOM_Element& example);
+
 /// Hands the reader small random trees, each in a document of its own: elements, texts, comments and CDATA sections in
 /// any order; now and then the handle is null or stands on a node that is no element. Each call must return or throw
 /// TRNAssertError or TRNIDOM_DOMException.

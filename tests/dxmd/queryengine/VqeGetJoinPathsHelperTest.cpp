@@ -1,5 +1,9 @@
 #include <dxmd/queryengine/VqeGetJoinPathsHelper.h>
 
+#include <trnidom/TRNIDOM_Helper.h>
+#include <trnidom/TRNIDOM_NodeList.h>
+
+#include "RandomTrees.h"
 #include "TestSupport.h"
 
 using namespace dxmd_test;
@@ -41,6 +45,20 @@ TEST(VqeGetJoinPathsHelper, PathsAfterNestedOnesAreNotLost) {
   EXPECT_EQ((Joins{"a", "b", "c", "d"}),
             joinsOf("<r><joinPath><joinPath><join>a</join><joinPath/></joinPath><join>b</join></joinPath>"
                     "<x><joinPath><join>c</join></joinPath></x><joinPath><join>d</join></joinPath></r>"));
+}
+
+TEST(VqeGetJoinPathsHelper, JoinsAreThoseOfEachPathWhereverTheyStand) {
+  feedRandomTrees({{"response", "joinPath", "join", "x"}, {}, {"a", "b"}}, [](TRNIDOM_Element& tree) {
+    Joins expected;
+    for (const TRNIDOM_Element path : tree.getElementsByTagName("joinPath"))
+      for (const TRNIDOM_Node join : path.getElementsByTagName("join"))
+        expected.insert(TRNIDOM_Helper::getElementText(join));
+    VqeGetJoinPathsHelper command("m");
+    command.Take(tree);
+    Joins joins;
+    command.GetJoins(joins);
+    EXPECT_EQ(expected, joins);
+  });
 }
 
 TEST(VqeGetJoinPathsHelper, JoinsAreAddedToTheCallersSet) {
