@@ -1,6 +1,4 @@
-#include <cstdio>
-#include <fstream>
-
+#include "TempFolder.h"
 #include "TestSupport.h"
 
 #include <trnidom/TRNIDOM_NodeList.h>
@@ -205,10 +203,9 @@ TEST(Parser, RefusesDocumentTypes) {
 }
 
 TEST(Parser, ReadsFiles) {
-  const std::string path = testing::TempDir() + "trnidom_parser_test.xml";
-  std::ofstream(path) << "<a>\n</a>";
-  EXPECT_EQ("<a>\n</a>", xmlOf(TRNIDOM_Parser::parseFile(path)));
-  std::remove(path.c_str());
+  const TempFolder folder;
+  EXPECT_EQ("<a>\n</a>", xmlOf(TRNIDOM_Parser::parseFile(folder.add("a.xml", "<a>\n</a>"))));
+  const std::string path = folder.path("absent.xml");
   try {
     TRNIDOM_Parser::parseFile(path);
     ADD_FAILURE();
@@ -216,5 +213,5 @@ TEST(Parser, ReadsFiles) {
     EXPECT_EQ(0U, error.getLine() + error.getColumn());
     EXPECT_NE(std::string::npos, std::string(error.what()).find(path));
   }
-  EXPECT_THROW(TRNIDOM_Parser::parseFile(testing::TempDir()), TRNIDOM_ParseError) << "a folder";
+  EXPECT_THROW(TRNIDOM_Parser::parseFile(folder.path(".")), TRNIDOM_ParseError) << "a folder";
 }

@@ -8,6 +8,8 @@
 #include <tools/dxmd/ToolError.h>
 #include <tools/dxmd/json/JsonError.h>
 
+#include "TempFolder.h"
+
 namespace dxmd_test {
 
 /// What a run of the tool gave.
@@ -41,25 +43,6 @@ void expectJsonError(dxmd_tool::JsonError::Cause cause, const std::string& messa
 
 /// Keeps for SchemaTest.py what was encoded, or refused for that reason, where DXMD_TEST_ENCODED names a folder.
 void keepEncoded(const std::string& kind, const std::string& json, const std::string& refusal = "");
-
-/// A folder that goes with its content at the end of the test.
-class TempFolder {
- public:
-  TempFolder();
-  TempFolder(const TempFolder&) = delete;
-  TempFolder& operator=(const TempFolder&) = delete;
-  ~TempFolder();
-
-  std::string path(const std::string& name) const { return m_path + "/" + name; }
-  std::string add(const std::string& name, const std::string& bytes) const;
-  /// The names in the folder, sorted.
-  std::vector<std::string> names() const;
-
- private:
-  std::string m_path;
-};
-
-std::string bytesOf(const std::string& path);
 
 }  // namespace dxmd_test
 
