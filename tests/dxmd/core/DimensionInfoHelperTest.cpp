@@ -47,6 +47,13 @@ TEST(DimensionInfo, EmptyTextsGetATextNode) {
   EXPECT_TRUE(element.getElementsByTagName("name").item(0).hasChildNodes());
 }
 
+TEST(DimensionInfo, AddsElementsWithOneTextEach) {
+  TRNIDOM_Element parent = parsed("<p><a/></p>");
+  TRNIDOM_Document document = parent.getOwnerDocument();
+  for (const char* text : {"t", ""}) DimensionInfoHelper().AddTextElementNode(document, parent, "b", text);
+  expectXml("<p><a/><b>t</b><b></b></p>", parent);
+}
+
 TEST(DimensionInfo, FindsItsListsAndReadsNothing) {
   DimensionInfoHelper dimension;
   TRNIDOM_Element element = parsed("<r><x><levels n='1'/></x><levels n='2'/></r>");

@@ -1,5 +1,6 @@
 #include <dxmd/modelactions/DXActionHelperImportConfig.h>
 
+#include <trn/TRNAssertError.h>
 #include <trnidom/TRNIDOM_Node.h>
 
 #include "TestSupport.h"
@@ -92,4 +93,9 @@ TEST(ImportConfig, TakesOnlyASource) {
     TRNIDOM_Element null;
     Config().Take(null);
   });
+  const auto config = taken<Config>("<source queryType='q'/>");
+  TRNIDOM_Element other = parsed("<other/>");
+  EXPECT_THROW(config->Take(other), TRNAssertError);
+  I18NString answer;
+  EXPECT_TRUE(config->getQueryType(answer)) << "what is refused is not remembered";
 }

@@ -1,5 +1,7 @@
 #include <dxmd/modelactions/DXActionHelperObjectAccess.h>
 
+#include <trn/TRNAssertError.h>
+
 #include "TestSupport.h"
 
 using namespace dxmd_test;
@@ -163,6 +165,17 @@ TEST(ObjectAccess, NeedsAnElementToReadOrRebuild) {
   TRNIDOM_Element null;
   expectAssert("TRN_ASSERT(!m_requestRoot.isNull());", kFile, [&] { access.buildAccessVector(); });
   expectAssert("TRN_ASSERT(!m_requestRoot.isNull());", kFile, [&] { access.Take(null); });
+}
+
+TEST(ObjectAccess, EntriesAreThoseReadUntilOneIsRefused) {
+  const auto access = taken<Access>("<objectAccess><securityObject cmSearchPath='a'/></objectAccess>");
+  EXPECT_EQ("a:unspecified ", entriesOf(*access));
+  TRNIDOM_Element bad = parsed("<o><securityObject cmSearchPath='b'/><x/></o>");
+  access->Take(bad);
+  EXPECT_THROW(entriesOf(*access), TRNAssertError);
+  TRNIDOM_Element null;
+  EXPECT_THROW(access->Take(null), TRNAssertError);
+  EXPECT_EQ("b:unspecified ", entriesOf(*access)) << "without an element nothing is read";
 }
 
 TEST(ObjectAccess, ManyPrincipalsAddedTwiceAreEachThereOnce) {

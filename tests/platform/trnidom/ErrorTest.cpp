@@ -103,10 +103,13 @@ TEST_F(Errors, MalformedNamesAreRefused) {
 }
 
 TEST_F(Errors, TextIsNeverCutAtANul) {
-  const I18NString nul = I18NString::fromUtf16(u"a\0b", 3);
-  refused(Error::INVALID_CHARACTER_ERR, document, [&] { document.createTextNode(nul); });
-  refused(Error::INVALID_CHARACTER_ERR, document, [&] { text.setNodeValue(nul); });
-  refused(Error::INVALID_CHARACTER_ERR, document, [&] { a.setAttribute("x", nul); });
+  for (const std::u16string& units :
+       {std::u16string(u"a\0b", 3), std::u16string(40, u'a') + u'\0', std::u16string(9, u'\0')}) {
+    const I18NString nul = I18NString::fromUtf16(units.data(), units.size());
+    refused(Error::INVALID_CHARACTER_ERR, document, [&] { document.createTextNode(nul); });
+    refused(Error::INVALID_CHARACTER_ERR, document, [&] { text.setNodeValue(nul); });
+    refused(Error::INVALID_CHARACTER_ERR, document, [&] { a.setAttribute("x", nul); });
+  }
 }
 
 TEST_F(Errors, DocumentNamesMustGoWithTheirNamespace) {

@@ -3,6 +3,7 @@
 #include <map>
 #include <memory>
 #include <random>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -203,37 +204,13 @@ class Generator {
   }
 
   void insertPiece(std::string& xml) {
-    const std::string piece = oneOf({"<",
-                                     ">",
-                                     "&",
-                                     "<a>",
-                                     "</a>",
-                                     "<!--",
-                                     "-->",
-                                     "--",
-                                     "<![CDATA[",
-                                     "]]>",
-                                     "<?",
-                                     "?>",
-                                     "<?xml?>",
-                                     "\"",
-                                     "'",
-                                     "=",
-                                     "&#0;",
-                                     "&#xD800;",
-                                     "&#x110000;",
-                                     "&b;",
-                                     "&#;",
-                                     "a='1'",
-                                     " ",
-                                     "/",
-                                     "<!DOCTYPE a>",
-                                     "\x01",
-                                     "\x7F",
-                                     "\xEF\xBF\xBE",
-                                     "<a\xF0\x90\x80\x80/>",
-                                     "<?xml version='1.1'?>",
-                                     "\xEF\xBB\xBF"});
+    std::istringstream pieces(
+        "<|>|&|<a>|</a>|<!--|-->|--|<![CDATA[|]]>|<?|?>|<?xml?>|\"|'|=|&#0;|&#xD800;|&#x110000;|&b;|&#;|"
+        "a='1'| |/|<!DOCTYPE a>|\x01|\x7F|\xEF\xBF\xBE|<a\xF0\x90\x80\x80/>|<?xml version='1.1'?>|"
+        "\xEF\xBB\xBF");
+    std::vector<std::string> all;
+    for (std::string each; std::getline(pieces, each, '|');) all.push_back(each);
+    const std::string& piece = all[below(all.size())];
     std::size_t at = below(xml.size() + 1);
     while (at < xml.size() && (xml[at] & 0xC0) == 0x80) ++at;
     xml.insert(at, piece);

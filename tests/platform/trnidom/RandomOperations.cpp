@@ -89,6 +89,11 @@ std::string RandomOperations::anyName() {
   return kNames[m_choose(8)];
 }
 
+/// The name of an attribute: more than an element keeps without an index.
+std::string RandomOperations::anyKey() {
+  return oneIn(2) ? "k" + std::to_string(m_choose(40)) : anyName();
+}
+
 std::string RandomOperations::anyValue() {
   switch (m_choose(12)) {
     case 0:
@@ -301,7 +306,7 @@ void RandomOperations::setAttribute() {
   TRNIDOM_Element element = handleOf(node);
   ModelNode::Codes codes;
   if (!node->isElement()) codes.insert(Error::NOT_SUPPORTED_ERR);
-  const std::string name = anyName();
+  const std::string name = anyKey();
   if (oneIn(4)) {
     if (!attempt(codes, [&] { element.removeAttribute(name.c_str()); })) return;
     if (const auto found = node->attributes.find(name); found != node->attributes.end()) {
@@ -467,7 +472,7 @@ void RandomOperations::checkAttributes(ModelNode* node, const TRNIDOM_NamedNodeM
   for (const auto& attribute : expected)
     if (at++ == wanted) expectSame(attribute.second->handle, map.item(wanted), "attribute by index");
   if (wanted == expected.size()) expectSame(TRNIDOM_Node(), map.item(wanted), "attribute by index");
-  const std::string name = anyName();
+  const std::string name = anyKey();
   const auto found = expected.find(name);
   const bool has = found != expected.end();
   expectSame(has ? found->second->handle : TRNIDOM_Node(), map.getNamedItem(name.c_str()), "attribute by name");

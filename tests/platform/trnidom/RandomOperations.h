@@ -39,6 +39,7 @@ class RandomOperations {
 
   bool oneIn(std::size_t count) { return m_choose(count) == 0; }
   std::string anyName();
+  std::string anyKey();
   std::string anyValue();
   ModelNode* any();
   ModelNode* anyParent();

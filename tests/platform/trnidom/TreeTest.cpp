@@ -1,3 +1,6 @@
+#include <map>
+#include <string>
+
 #include <utility>
 
 #include "TestSupport.h"
@@ -154,6 +157,25 @@ TEST(Attributes, AreAddedReplacedAndRemoved) {
   a.removeAttribute("absent");
   EXPECT_FALSE(a.hasAttribute("b"));
   EXPECT_TRUE(a.getAttribute("b").empty());
+}
+
+TEST(Attributes, AreSortedHoweverMany) {
+  TRNIDOM_Element a = parsed("<a/>");
+  std::map<std::string, std::string> expected;
+  for (int i = 40; i > 0; --i) {
+    const std::string name = "n" + std::to_string(i * 7 % 41);
+    a.setAttribute(name.c_str(), std::to_string(i).c_str());
+    expected[name] = std::to_string(i);
+    if (i % 5 == 0) a.removeAttribute("n3");
+  }
+  expected.erase("n3");
+  a.removeAttribute("n3");
+  std::size_t at = 0;
+  for (const auto& [name, value] : expected) {
+    EXPECT_EQ(name.c_str(), a.getAttributes().item(at++).getNodeName());
+    EXPECT_EQ(value.c_str(), a.getAttribute(name.c_str()));
+  }
+  EXPECT_EQ(at, a.getAttributes().getLength());
 }
 
 TEST(Attributes, AreNodesOfAMap) {

@@ -199,44 +199,12 @@ TEST_P(EveryKind, RandomJsonComesBack) {
   }
 }
 
-// What stands here is what users rely on: a kind that leaves the list loses something that it gave back before.
-TEST(EveryKindThatComesBackWhole, IsListed) {
-  const std::set<std::string> expected = {"execute",
-                                          "response",
-                                          "closeConnections",
-                                          "validate",
-                                          "validateReply",
-                                          "update",
-                                          "connection",
-                                          "dataSourceFault",
-                                          "cancelQuery",
-                                          "expandParameter",
-                                          "expansionResult",
-                                          "getParameters",
-                                          "querySubject",
-                                          "getJoinPaths",
-                                          "joinPaths",
-                                          "refineObjects",
-                                          "refinedObjects",
-                                          "testConnection",
-                                          "dimInfo",
-                                          "dbConnections",
-                                          "definitionFile",
-                                          "objectAccess",
-                                          "importConfig",
-                                          "retargetObjectReferences",
-                                          "packages",
-                                          "updateObjectRequest",
-                                          "updateObjectResponse",
-                                          "feedback",
-                                          "materializeRequest",
-                                          "materializeResponse",
-                                          "analyzeModelRequest",
-                                          "analyzeModelResponse"};
-  std::set<std::string> whole;
+// Users rely on all others: a kind that joins the list loses something that it gave back before.
+TEST(EveryKindThatLosesKeys, IsListed) {
+  std::set<std::string> losing;
   for (const Kind& kind : allKinds())
-    if (!losesKeys(kind.describe())) whole.insert(kind.name);
-  EXPECT_EQ(expected, whole);
+    if (losesKeys(kind.describe())) losing.insert(kind.name);
+  EXPECT_EQ((std::set<std::string>{"externalizeReport", "parameterValueItem", "securityObjects"}), losing);
 }
 
 TEST_P(EveryKind, ExampleIsEncodedAsTheRootDeclared) {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <tools/dxmd/json/Json.h>
+#include <tools/dxmd/json/Quote.h>
 
 #include "RunTool.h"
 #include "TestSupport.h"
@@ -44,6 +45,13 @@ TEST(JsonReader, ReadsEachTypeOfValue) {
            EXPECT_EQ("v", value.text());
          });
        });
+}
+
+TEST(JsonReader, MessagesQuoteSixtyBytesOfAText) {
+  const std::string sixty(60, 'x');
+  EXPECT_EQ('"' + sixty + '"', inQuotes(sixty));
+  EXPECT_EQ('"' + sixty + "...\"", inQuotes(sixty + "y"));
+  EXPECT_EQ('"' + sixty.substr(1) + "...\"", inQuotes(sixty.substr(1) + "\u00E4"));
 }
 
 TEST(JsonReader, WhatIsAbsentReadsAsEmptyOrAsGiven) {
