@@ -69,12 +69,3 @@ TEST(IQDFile, WithoutLinesItFailsAfterThePathIsWritten) {
   expectAssert("TRN_ASSERT(false);", kFile, [&] { file.Make(element); });
   expectXml("<file><filePath>p</filePath></file>", element);
 }
-
-TEST(IQDFile, ManyLinesComeBackInOrder) {
-  DXActionHelperIQDFile file;
-  for (int line = 0; line < 20'000; ++line) file.addContentLine(("line " + std::to_string(line)).c_str());
-  TRNIDOM_Element element = madeElement(file);
-  DXActionHelperIQDFile again;
-  again.Take(element);
-  EXPECT_EQ(file.getContents(), again.getContents());
-}

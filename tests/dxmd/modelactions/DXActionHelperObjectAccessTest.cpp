@@ -177,13 +177,3 @@ TEST(ObjectAccess, EntriesAreThoseReadUntilOneIsRefused) {
   EXPECT_THROW(access->Take(null), TRNAssertError);
   EXPECT_EQ("b:unspecified ", entriesOf(*access)) << "without an element nothing is read";
 }
-
-TEST(ObjectAccess, ManyPrincipalsAddedTwiceAreEachThereOnce) {
-  Access access;
-  TRNIDOM_Element element = madeElement(access);
-  for (int round = 0; round < 2; ++round)
-    for (int i = 0; i < 20'000; ++i) access.addEntry(user(("u" + std::to_string(i)).c_str()), Access::kAllow);
-  std::vector<Access::SecurityObjectAccess> entries;
-  access.getEntries(entries);
-  EXPECT_EQ(20'000u, entries.size());
-}

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "Growth.h"
 #include "TestSupport.h"
 
 #include <trnidom/TRNIDOM_Helper.h>
@@ -19,26 +20,6 @@ namespace {
 
 using Work = std::function<void()>;
 using Strings = std::vector<I18NString>;
-
-/// As many texts, "n0" and so on.
-Strings numbered(std::size_t count) {
-  Strings all;
-  for (std::size_t i = 0; i < count; ++i) all.push_back(("n" + std::to_string(i)).c_str());
-  return all;
-}
-
-/// As many texts that the hash h = h * factor + c, which Java (31), many libraries (33) and ICU (37) have, does not
-/// tell apart.
-Strings colliding(std::size_t count, char factor) {
-  const std::string pairs[] = {"ay", {'b', static_cast<char>('y' - factor)}};
-  Strings all;
-  for (std::size_t i = 0; i < count; ++i) {
-    std::string text;
-    for (std::size_t bit = 0; bit < 16; ++bit) text += pairs[i >> bit & 1];
-    all.push_back(text.c_str());
-  }
-  return all;
-}
 
 Strings reversed(const Strings& texts) {
   return {texts.rbegin(), texts.rend()};
@@ -94,18 +75,19 @@ void readBackward(const TRNIDOM_NodeList& list) {
 }
 
 const std::vector<CostCase> kCases = {
-    {"ParseAttributesOfOneElement", 2000, [](std::size_t n) { return parsingAttributes(numbered(n)); }},
-    {"ParseDistinctNames", 2000, [](std::size_t n) { return parsingElements(numbered(n)); }},
-    {"ParseCollidingNames31", 1000, [](std::size_t n) { return parsingElements(colliding(n, 31)); }},
-    {"ParseCollidingNames33", 1000, [](std::size_t n) { return parsingElements(colliding(n, 33)); }},
-    {"ParseCollidingNames37", 1000, [](std::size_t n) { return parsingElements(colliding(n, 37)); }},
-    {"ParseCollidingAttributes", 1000, [](std::size_t n) { return parsingAttributes(colliding(n, 31)); }},
-    {"ParseDeep", 2000, [](std::size_t n) { return parsing(repeated("<a>", n) + repeated("</a>", n)); }},
-    {"ParseReferences", 5000, [](std::size_t n) { return parsing("<a>" + repeated("&amp;", n) + "</a>"); }},
-    {"ParseOneText", 400000, [](std::size_t n) { return parsing("<a>" + repeated("x", n) + "</a>"); }},
-    {"ParseOneAttribute", 400000, [](std::size_t n) { return parsing("<a b='" + repeated("x", n) + "'/>"); }},
-    {"ParseOneComment", 400000, [](std::size_t n) { return parsing("<a><!--" + repeated("x", n) + "--></a>"); }},
-    {"FindOrCreate", 500,
+    {"Parser", "ParseAttributesOfOneElement", 2000, [](std::size_t n) { return parsingAttributes(numbered(n)); }},
+    {"Parser", "ParseDistinctNames", 2000, [](std::size_t n) { return parsingElements(numbered(n)); }},
+    {"Parser", "ParseCollidingNames31", 1000, [](std::size_t n) { return parsingElements(colliding(n, 31)); }},
+    {"Parser", "ParseCollidingNames33", 1000, [](std::size_t n) { return parsingElements(colliding(n, 33)); }},
+    {"Parser", "ParseCollidingNames37", 1000, [](std::size_t n) { return parsingElements(colliding(n, 37)); }},
+    {"Parser", "ParseCollidingAttributes", 1000, [](std::size_t n) { return parsingAttributes(colliding(n, 31)); }},
+    {"Parser", "ParseDeep", 2000, [](std::size_t n) { return parsing(repeated("<a>", n) + repeated("</a>", n)); }},
+    {"Parser", "ParseReferences", 5000, [](std::size_t n) { return parsing("<a>" + repeated("&amp;", n) + "</a>"); }},
+    {"Parser", "ParseOneText", 400000, [](std::size_t n) { return parsing("<a>" + repeated("x", n) + "</a>"); }},
+    {"Parser", "ParseOneAttribute", 400000, [](std::size_t n) { return parsing("<a b='" + repeated("x", n) + "'/>"); }},
+    {"Parser", "ParseOneComment", 400000,
+     [](std::size_t n) { return parsing("<a><!--" + repeated("x", n) + "--></a>"); }},
+    {"Tree", "FindOrCreate", 500,
      [](std::size_t n) {
        return on(numbered(n), [](const TRNIDOM_Element& root, const Strings& keys) {
          for (int round = 0; round < 2; ++round)
@@ -117,11 +99,11 @@ const std::vector<CostCase> kCases = {
            }
        });
      }},
-    {"FindOrCreateByCollidingKeys31", 500,
+    {"Tree", "FindOrCreateByCollidingKeys31", 500,
      [](std::size_t n) { return onChildren(colliding(n, 31), [](const TRNIDOM_Element&, const Strings&) {}); }},
-    {"FindOrCreateByCollidingKeys37", 500,
+    {"Tree", "FindOrCreateByCollidingKeys37", 500,
      [](std::size_t n) { return onChildren(colliding(n, 37), [](const TRNIDOM_Element&, const Strings&) {}); }},
-    {"FillInAnEmptyKey", 500,
+    {"Tree", "FillInAnEmptyKey", 500,
      [](std::size_t n) {
        return on(numbered(n), [](const TRNIDOM_Element& root, const Strings& keys) {
          for (const I18NString& key : keys) {
@@ -131,19 +113,19 @@ const std::vector<CostCase> kCases = {
          }
        });
      }},
-    {"FindAndRemove", 500,
+    {"Tree", "FindAndRemove", 500,
      [](std::size_t n) {
        return onChildren(numbered(n), [](TRNIDOM_Element& root, const Strings& keys) {
          for (const I18NString& key : keys) root.removeChild(byKey(root, key));
        });
      }},
-    {"FindAndRemoveFromTheEnd", 500,
+    {"Tree", "FindAndRemoveFromTheEnd", 500,
      [](std::size_t n) {
        return onChildren(numbered(n), [](TRNIDOM_Element& root, const Strings& keys) {
          for (std::size_t i = keys.size(); i > 0; --i) root.removeChild(byKey(root, keys[i - 1]));
        });
      }},
-    {"ChangeOneKeyAndFindAnother", 500,
+    {"Tree", "ChangeOneKeyAndFindAnother", 500,
      [](std::size_t n) {
        return onChildren(numbered(n), [](const TRNIDOM_Element& root, const Strings& keys) {
          TRNIDOM_Element first = root.getFirstChild();
@@ -154,8 +136,9 @@ const std::vector<CostCase> kCases = {
          }
        });
      }},
-    {"SetAttributesInDescendingOrder", 1000, [](std::size_t n) { return on(reversed(numbered(n)), setAttributes); }},
-    {"SetReadAndRemoveAttributes", 1000,
+    {"Tree", "SetAttributesInDescendingOrder", 1000,
+     [](std::size_t n) { return on(reversed(numbered(n)), setAttributes); }},
+    {"Tree", "SetReadAndRemoveAttributes", 1000,
      [](std::size_t n) {
        return on(colliding(n, 31), [](TRNIDOM_Element& root, const Strings& names) {
          setAttributes(root, names);
@@ -164,7 +147,7 @@ const std::vector<CostCase> kCases = {
          for (const I18NString& name : names) root.removeAttribute(name);
        });
      }},
-    {"ReadListsBackwardAndForward", 500,
+    {"Tree", "ReadListsBackwardAndForward", 500,
      [](std::size_t n) {
        return [a = parsed("<a>" + repeated("<b/>t", n) + "</a>")] {
          for (const TRNIDOM_NodeList& list :
@@ -174,7 +157,7 @@ const std::vector<CostCase> kCases = {
          }
        };
      }},
-    {"AppendInALoopOverChildren", 500,
+    {"Tree", "AppendInALoopOverChildren", 500,
      [](std::size_t n) {
        return on(numbered(n), [](TRNIDOM_Element& root, const Strings& texts) {
          const TRNIDOM_NodeList children = root.getChildNodes();

@@ -230,11 +230,8 @@ TEST(CommandLine, WhatTheLibraryRefusesIsStatus1WithItsText) {
   EXPECT_EQ(1, run({"encode", "connection"}, R"({"username": "\u0001"})").status);
 }
 
-TEST(CommandLine, DeepAndLongDocumentsAreRead) {
+TEST(CommandLine, DeepDocumentsAreRead) {
   EXPECT_EQ(0, run(kDecode, "<response>" + nestedElements(1000000) + "</response>").status);
-  std::string rows;
-  for (int i = 0; i < 20000; ++i) rows += "<row><value v=\"" + std::to_string(i) + "\"/></row>";
-  EXPECT_TRUE(has(run(kDecode, "<response><resultData>" + rows + "</resultData></response>").out, "[\"19999\"]"));
 }
 
 TEST(CommandLine, OutputIsWrittenWholeOrNotAtAll) {

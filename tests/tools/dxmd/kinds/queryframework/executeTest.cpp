@@ -141,10 +141,3 @@ TEST(ExecuteKind, CommandThatNoJsonMakesIsRefusedWithItsPlace) {
   expectFailure(kStatusUnfit, R"(standard input: no execute: its command is not "execute")",
                 run({"decode", "execute"}, "<command><closeConnections/></command>"));
 }
-
-TEST(ExecuteKind, ReadsALongCommandInStep) {
-  std::string queries;
-  for (int i = 0; i < 20000; ++i) queries += queryOf("q" + std::to_string(i), "<model/>");
-  EXPECT_NE(std::string::npos,
-            decoded("execute", captured("<queries>" + queries + "</queries>")).find(R"({"name":"q19999"})"));
-}
