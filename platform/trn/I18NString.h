@@ -85,6 +85,7 @@ class TRN_API I18NString {
     result += right;
     return result;
   }
+
   /// Whether both have the same code units.
   friend bool operator==(const I18NString& left, const I18NString& right) noexcept {
     return left.m_length == right.m_length && left.startsWith(right.m_units, right.m_length);
