@@ -120,6 +120,7 @@ struct KindOption {
   const char* help;                       ///< one line
   std::vector<std::string> choices = {};  ///< the values allowed; empty allows any
   bool replacesInput = false;             ///< given without FILE, the input is `{}` and standard input is not read
+  bool keepsDocument = false;  ///< given, white space and all else stays in the document, which is written back
 };
 
 /// The options of its kind that the command line gave.
@@ -156,6 +157,11 @@ struct Kind {
   std::string wrapped;
   /// `decode` takes a root of any name when the document holds an element of one of these names.
   std::vector<std::string> orHolding;
+  /// What tells it from other kinds of its root, when that is not `orHolding`: it holds an element of one of these
+  /// names.
+  std::vector<std::string> marks;
+  /// For a reply that may report errors: what they are, in words; empty when the document reports none.
+  std::function<std::string(const TRNIDOM_Element& root)> errors;
 
   std::function<Description()> describe;  ///< its JSON
   std::function<TRNIDOM_Element(JsonObject&, const KindOptions&)> encode;

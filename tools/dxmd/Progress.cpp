@@ -15,7 +15,12 @@ Progress::Progress(std::ostream& err, std::function<double()> seconds, std::uint
     : m_err(err), m_seconds(std::move(seconds)), m_whole(whole) {}
 
 Progress::~Progress() {
+  clear();
+}
+
+void Progress::clear() {
   if (m_hasTold) m_err << kClearLine << std::flush;
+  m_hasTold = false;
 }
 
 void Progress::advance(std::uintmax_t bytes) {

@@ -19,6 +19,9 @@ class Progress {
 
   void advance(std::uintmax_t bytes);
 
+  /// Clears the line, for something else to be written.
+  void clear();
+
  private:
   std::ostream& m_err;
   std::function<double()> m_seconds;

@@ -143,10 +143,14 @@ void forEachSecret(const Json& json, const DescribedRecord* record, const JsonPl
   JsonWalk(visit).walk(const_cast<Json&>(json), false, record, place);
 }
 
+std::string maskOf(std::string_view secret) {
+  return secret.empty() ? "" : kMask;
+}
+
 }  // namespace
 
 std::string shownText(const std::string& text) {
-  return replacedInText(text, [](std::string_view secret) { return secret.empty() ? "" : kMask; });
+  return replacedInText(text, maskOf);
 }
 
 void maskSecrets(Json& json, const DescribedRecord* record) {
@@ -157,6 +161,11 @@ void maskSecrets(Json& json, const DescribedRecord* record) {
       value = shownText(value.get_ref<const std::string&>());
   };
   JsonWalk(visit).walk(json, false, record, {nullptr, ""});
+}
+
+void maskSecrets(const TRNIDOM_Node& root) {
+  const Replace mask = maskOf;
+  XmlWalk(mask).visitAll(root);
 }
 
 bool holdsSecrets(const Json& json, const DescribedRecord* record) {

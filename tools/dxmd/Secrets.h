@@ -25,6 +25,9 @@ std::string shownText(const std::string& text);
 /// @param record  describes it; null when there is no description.
 void maskSecrets(Json& json, const DescribedRecord* record);
 
+/// Hides those in a tree of XML, its comments included.
+void maskSecrets(const TRNIDOM_Node& root);
+
 /// Whether there is any, but for empty ones.
 bool holdsSecrets(const Json& json, const DescribedRecord* record);
 bool holdsSecrets(const TRNIDOM_Node& root);

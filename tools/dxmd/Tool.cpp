@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <memory>
-#include <new>
 #include <optional>
 #include <ostream>
 #include <system_error>
@@ -24,7 +24,6 @@
 #include <tools/dxmd/help/ManualPage.h>
 #include <tools/dxmd/json/Quote.h>
 #include <tools/dxmd/json/SecretNames.h>
-#include <tools/dxmd/text/Escape.h>
 #include <tools/dxmd/text/Suggest.h>
 
 namespace dxmd_tool {
@@ -34,6 +33,19 @@ namespace {
 const char* const kDescription = "Encodes and decodes the messages between the modelling client and its services.";
 
 const char* const kVerbFooter = R"(FILE absent or "-" is standard input. The options and notes of a kind: dxmd )";
+
+const char* const kDecodeFooter =
+    R"(What is read may be as it was captured: indented, in an envelope of SOAP, behind headers of HTTP, in
+chunks, compressed by gzip, with a prefix on every name. With --exact it is read as it is.
+Without KIND, the kind is found out. A first FILE that has the name of a kind is written ./FILE.
+Of several files each prints, one after the other; what one fails for does not keep the others from it,
+and the worst of their statuses counts.
+
+)";
+
+void tell(std::ostream& err, const std::string& message) {
+  err << "dxmd: " << message << std::endl;
+}
 
 /// The command line: its grammar, and what it asked for once parsed.
 class CommandLine {
@@ -45,6 +57,8 @@ class CommandLine {
     setUsage(m_app, "VERB [OPTIONS] ...");
     m_encode = addVerb("encode", "Read JSON, write the message as XML", KindOption::kEncode);
     m_decode = addVerb("decode", "Read XML, write what the message holds as JSON", KindOption::kDecode);
+    addFormat();
+    addDiff();
     m_kinds = m_app.add_subcommand("kinds", "List the kinds of messages, or describe one");
     m_kinds->add_option("KIND", m_kindName, "The kind to describe")->option_text(" ");
     m_kinds->footer("");
@@ -82,22 +96,31 @@ class CommandLine {
   CommandLine(const CommandLine&) = delete;
   CommandLine& operator=(const CommandLine&) = delete;
 
-  /// Does what the arguments ask for.
+  /// Does what the arguments ask for, and gives the exit status.
   /// @throws ToolError, CLI::ParseError
-  void run(std::vector<std::string> args, std::istream& in, std::ostream& out, std::ostream& err,
-           const Console& console) {
+  Status run(std::vector<std::string> args, std::istream& in, std::ostream& out, std::ostream& err,
+             const Console& console) {
     std::reverse(args.begin(), args.end());
     m_app.parse(args);
     const std::unique_ptr<Output> output = outputTo(out, console);
     std::optional<Progress> progress;
     if (console.errIsTerminal) {
-      progress.emplace(err, console.seconds, sizeOf(m_settings.file));
+      progress.emplace(err, console.seconds, sizeOf(inputs()));
       m_settings.onRead = [&progress](std::size_t bytes) { progress->advance(bytes); };
     }
-    printResult(in, *output);
+    const Status status = printResult(in, *output, [&](const std::string& message) {
+      if (progress) progress->clear();
+      tell(err, message);
+    });
     progress.reset();
-    output->finish();
+    // A file that would hold a part of the result stays as it was.
+    const bool isWhole = status == kStatusOk || status == kStatusReported || m_diff->parsed();
+    if (isWhole || m_settings.output.empty() || m_settings.output == "-") output->finish();
+    return status;
   }
+
+  /// Whether the verb that was parsed ends as diff does: with status 2 for any failure.
+  bool failsAsDiff() const { return m_diff->parsed(); }
 
   /// The help of the verb and kind that were parsed.
   /// @throws ToolError when there is no such verb or kind.
@@ -129,16 +152,20 @@ class CommandLine {
   /// A verb has one subcommand for each kind that it takes, so that a kind's own options are that subcommand's.
   CLI::App* addVerb(const char* name, const char* help, KindOption::Verb verb) {
     CLI::App* app = m_app.add_subcommand(name, help);
-    app->footer(std::string(kVerbFooter) + name + " KIND --help");
-    setUsage(*app, std::string(name) + " [OPTIONS] KIND [FILE]");
+    const bool encodes = verb == KindOption::kEncode;
+    app->footer((encodes ? "" : kDecodeFooter) + std::string(kVerbFooter) + name + " KIND --help");
+    setUsage(*app, name + std::string(encodes ? " [OPTIONS] KIND [FILE]" : " [OPTIONS] [KIND] [FILE]..."));
+    if (!encodes) addFiles(*app);
     addInputOutput(*app, verb);
     for (const Kind& kind : allKinds()) {
       CLI::App* command = app->add_subcommand(kind.name, kind.summary)->ignore_case();
       command->group("Kinds");
       command->footer("Keys of the JSON: dxmd kinds " + kind.name + "\n" + notesOf(kind));
-      setUsage(*command, name + (" " + kind.name) + " [OPTIONS] [FILE]");
-      command->add_option("FILE", m_settings.file, verb == KindOption::kEncode ? "The JSON to read" : "The XML to read")
-          ->option_text(" ");
+      setUsage(*command, name + (" " + kind.name) + " [OPTIONS] [FILE]" + (encodes ? "" : "..."));
+      if (encodes)
+        command->add_option("FILE", m_settings.file, "The JSON to read")->option_text(" ");
+      else
+        addFiles(*command);
       addInputOutput(*command, verb);
       for (const KindOption& option : kind.options)
         if (option.verb == verb) addKindOption(*command, option);
@@ -147,6 +174,40 @@ class CommandLine {
     app->allow_extras();
     app->require_subcommand(0, 1);
     return app;
+  }
+
+  void addFormat() {
+    m_format = m_app.add_subcommand("format", "Print XML indented and without secrets");
+    m_format->add_option("FILE", m_settings.file, "The XML to read")->option_text(" ");
+    m_format->footer("FILE absent or \"-\" is standard input. It may hold any XML.");
+    setUsage(*m_format, "format [OPTIONS] [FILE]");
+    m_format->add_option("--indent", m_settings.indent, "Spaces per level, by default 2")
+        ->option_text("N")
+        ->check(CLI::Range(0U, 16U));
+    addReading(*m_format);
+    addOutput(*m_format);
+  }
+
+  void addDiff() {
+    m_diff = m_app.add_subcommand("diff", "Compare two messages as JSON");
+    m_diff->add_option("FILES", m_files, "The two messages")->expected(2)->required()->option_text("LEFT RIGHT");
+    m_diff->footer(
+        "Each place that differs prints as it is in LEFT, behind \"- \", and in RIGHT, behind \"+ \". Secrets are "
+        "compared\n"
+        "too, and print as ***. Exit status: 0 the same, 1 different, 2 something failed.");
+    setUsage(*m_diff, "diff [OPTIONS] LEFT RIGHT");
+    m_diff->add_option("--kind", m_kindName, "Their kind; by default it is found out")->option_text("KIND");
+    addReading(*m_diff);
+    addOutput(*m_diff);
+  }
+
+  void addFiles(CLI::App& app) { app.add_option("FILE", m_files, "The XML to read")->option_text(" "); }
+
+  /// The options of verbs that read XML.
+  void addReading(CLI::App& app) {
+    app.add_flag("--exact", m_settings.exact,
+                 "Read the document as it is, with what is around the message and between its elements");
+    app.add_flag("--show-secrets", m_settings.showSecrets, "Print passwords, passports and tickets");
   }
 
   void addInputOutput(CLI::App& app, KindOption::Verb verb) {
@@ -163,7 +224,7 @@ class CommandLine {
       app.add_option("--indent", m_settings.indent, "Spaces per level of the JSON, by default 2; 0 writes one line")
           ->option_text("N")
           ->check(CLI::Range(0U, 16U));
-      app.add_flag("--show-secrets", m_settings.showSecrets, "Print passwords, passports and tickets");
+      addReading(app);
     }
     addOutput(app);
   }
@@ -187,20 +248,39 @@ class CommandLine {
     return std::make_unique<StreamOutput>(out);
   }
 
-  /// The size of the file; 0 when it is not known.
-  static std::uintmax_t sizeOf(const std::string& file) {
-    std::error_code error;
-    const std::uintmax_t size = std::filesystem::file_size(file, error);
-    return error ? 0 : size;
+  /// The files that are read.
+  std::vector<std::string> inputs() const {
+    return m_files.empty() ? std::vector<std::string>{m_settings.file} : m_files;
   }
 
-  void printResult(std::istream& in, Output& out) {
+  /// The size of the files; 0 when it is not known.
+  static std::uintmax_t sizeOf(const std::vector<std::string>& files) {
+    std::uintmax_t whole = 0;
+    for (const std::string& file : files) {
+      std::error_code error;
+      const std::uintmax_t size = std::filesystem::file_size(file, error);
+      if (error) return 0;
+      whole += size;
+    }
+    return whole;
+  }
+
+  Status printResult(std::istream& in, Output& out, const std::function<void(const std::string&)>& tellMessage) {
     checkVerb();
     m_settings.kindOptions = KindOptions(m_kindValues);
     if (!m_queryServiceNamespace.empty()) DXNamespaces::SetQueryService(m_queryServiceNamespace.c_str());
-    if (m_encode->parsed()) return encode(kindOf(*m_encode), m_settings, in, out);
-    if (m_decode->parsed()) return decode(kindOf(*m_decode), m_settings, in, out);
-    out.write(description());
+    if (m_decode->parsed()) return decodeAll(kindToDecode(), m_settings, inputs(), in, out, tellMessage);
+    if (m_diff->parsed()) {
+      const Kind* const kind = m_kindName.empty() ? nullptr : &findKind(m_kindName);
+      return diff(kind, m_settings, m_files[0], m_files[1], in, out) ? kStatusOk : kStatusUnfit;
+    }
+    if (m_encode->parsed())
+      encode(kindOf(*m_encode), m_settings, in, out);
+    else if (m_format->parsed())
+      format(m_settings, in, out);
+    else
+      out.write(description());
+    return kStatusOk;
   }
 
   /// What there is to say of kinds.
@@ -275,6 +355,18 @@ class CommandLine {
                        [&](const Kind& kind) { return lowerCase(kind.name) == lowerCase(name); });
   }
 
+  /// The kind that decode was given; null when it is to be found out.
+  const Kind* kindToDecode() const {
+    const std::vector<std::string> extras = m_decode->remaining();
+    if (!extras.empty()) failUnexpected(extras[0]);
+    if (const auto kinds = m_decode->get_subcommands(); !kinds.empty()) return &findKind(kinds[0]->get_name());
+    // What looks like a name and is no file may be a kind that was mistyped.
+    const bool mayBeKind = !m_files.empty() && m_files[0].find_first_of("./-") == std::string::npos;
+    std::error_code error;
+    if (mayBeKind && !std::filesystem::exists(m_files[0], error)) findKind(m_files[0]);
+    return nullptr;
+  }
+
   static bool isOption(const std::string& argument) { return argument.compare(0, 1, "-") == 0; }
 
   [[noreturn]] void failUnexpected(const std::string& argument) const {
@@ -294,11 +386,14 @@ class CommandLine {
   CLI::App m_app;
   CLI::App* m_encode;
   CLI::App* m_decode;
+  CLI::App* m_format;
+  CLI::App* m_diff;
   CLI::App* m_kinds;
   CLI::App* m_example;
   CLI::App* m_schema;
   CLI::App* m_help;
   Settings m_settings;
+  std::vector<std::string> m_files;
   std::string m_queryServiceNamespace;
   std::string m_kindName;
   std::string m_helpVerb;
@@ -313,37 +408,25 @@ class CommandLine {
 int runTool(const std::vector<std::string>& args, std::istream& in, std::ostream& out, std::ostream& err,
             const Console& console) {
   Status status = kStatusOk;
-  std::string message;
-  try {
+  bool failsAsDiff = false;
+  const Outcome outcome = outcomeOf([&] {
     CommandLine commandLine;
     try {
-      commandLine.run(args, in, out, err, console);
+      status = commandLine.run(args, in, out, err, console);
     } catch (const CLI::CallForHelp&) {
       writeStream(out, commandLine.help());
     } catch (const CLI::CallForVersion& version) {
       writeStream(out, version.what() + std::string("\n"));
     } catch (const CLI::ParseError& error) {
       commandLine.fail(error);
+    } catch (...) {
+      failsAsDiff = commandLine.failsAsDiff();
+      throw;
     }
-  } catch (const ToolError& error) {
-    status = error.status();
-    message = error.what();
-  } catch (const std::bad_alloc&) {
-    status = kStatusMemory;
-  } catch (const std::exception& error) {
-    status = kStatusUnfit;
-    message = error.what();
-  }
-  try {
-    message = escaped(message);
-  } catch (const std::bad_alloc&) {
-    status = kStatusMemory;
-  }
-  if (status == kStatusMemory)
-    err << "dxmd: out of memory" << std::endl;
-  else if (status != kStatusOk && !message.empty())
-    err << "dxmd: " << message << std::endl;
-  return status;
+  });
+  if (outcome.status == kStatusOk) return status;
+  if (!outcome.message.empty()) tell(err, outcome.message);
+  return failsAsDiff ? kStatusUsage : outcome.status;
 }
 
 }  // namespace dxmd_tool

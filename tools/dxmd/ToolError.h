@@ -1,6 +1,7 @@
 #ifndef TOOLS_DXMD_TOOLERROR_H
 #define TOOLS_DXMD_TOOLERROR_H
 
+#include <functional>
 #include <stdexcept>
 #include <string>
 
@@ -9,11 +10,12 @@ namespace dxmd_tool {
 /// Exit statuses.
 enum Status {
   kStatusOk = 0,
-  kStatusUnfit = 1,   ///< the input does not fit the kind
-  kStatusUsage = 2,   ///< wrong usage
-  kStatusFile = 3,    ///< a file cannot be read or written
-  kStatusSyntax = 4,  ///< not well-formed XML or JSON
-  kStatusMemory = 5,  ///< out of memory
+  kStatusUnfit = 1,     ///< the input does not fit the kind
+  kStatusUsage = 2,     ///< wrong usage
+  kStatusFile = 3,      ///< a file cannot be read or written
+  kStatusSyntax = 4,    ///< not well-formed XML or JSON
+  kStatusMemory = 5,    ///< out of memory
+  kStatusReported = 6,  ///< the input is a reply that reports errors
 };
 
 /// What ends a run: its exit status and the one line that says why, which begins with the name of the file concerned,
@@ -27,6 +29,15 @@ class ToolError : public std::runtime_error {
  private:
   Status m_status;
 };
+
+/// How a run ended, and the line that says why.
+struct Outcome {
+  Status status = kStatusOk;
+  std::string message;  ///< empty when nothing is to be said
+};
+
+/// Runs the action. Whatever it throws becomes its outcome; nothing is thrown.
+Outcome outcomeOf(const std::function<void()>& action);
 
 }  // namespace dxmd_tool
 

@@ -24,8 +24,9 @@ TEST(Exchange, ReplyIsDecodedAsItStandsBeside) {
   EXPECT_EQ(bytesOf(kFolder + "rows.txt"), run({"decode", "response", kFolder + "reply.xml", "--format", "table"}).out);
 }
 
-TEST(Exchange, IndentedReplyKeepsNoColumns) {
+TEST(Exchange, IndentedReplyKeepsItsColumnsUnlessItIsReadExactly) {
   std::string indented = bytesOf(kFolder + "reply.xml");
   indented.replace(indented.find("><column "), 1, ">\n");
-  EXPECT_EQ(1, run({"decode", "response"}, indented).status);
+  EXPECT_EQ(bytesOf(kFolder + "reply.json"), run({"decode", "response"}, indented).out);
+  EXPECT_EQ(1, run({"decode", "response", "--exact"}, indented).status);
 }

@@ -18,6 +18,9 @@ const std::vector<StatusText>& statusTexts() {
       {kStatusFile, "a file cannot be read or written"},
       {kStatusSyntax, "the input is not well-formed XML or JSON: the message names file, line and column"},
       {kStatusMemory, "out of memory"},
+      {kStatusReported,
+       "the message is a reply that reports errors or a fault, and no kind was asked for that does: it\n"
+       "prints as what it is, unless another kind was asked for"},
   };
   return kTexts;
 }
@@ -26,6 +29,7 @@ const std::vector<const char*>& exampleTexts() {
   static const std::vector<const char*> kTexts{
       "dxmd kinds execute",
       "dxmd example execute | dxmd encode execute --indent 2",
+      "dxmd decode captured.xml",
       "dxmd decode response reply.xml --format table",
   };
   return kTexts;

@@ -7,6 +7,7 @@
 #include <trnidom/TRNIDOM_DocumentType.h>
 #include <trnidom/TRNIDOM_Helper.h>
 #include <trnidom/TRNIDOM_NodeList.h>
+#include <trnidom/TRNIDOM_Writer.h>
 
 namespace dxmd_tool {
 
@@ -99,6 +100,14 @@ void refuseNested(const TRNIDOM_Element& root, const I18NString& name) {
   for (const TRNIDOM_Node outer : root.getElementsByTagName(name))
     if (const TRNIDOM_Element inner = TRNIDOM_Helper::findFirstElement(outer, name); !inner.isNull())
       refuse(inner, "it stands inside another " + inQuotes(name.toUtf8()));
+}
+
+std::string xmlText(const TRNIDOM_Node& node, unsigned indent) {
+  TRNIDOM_Writer::Options options;
+  options.indent = indent;
+  std::string xml = TRNIDOM_Writer::toString(node, options);
+  if (xml.empty() || xml.back() != '\n') xml += '\n';
+  return xml;
 }
 
 void walk(const TRNIDOM_Node& root, const std::function<void(TRNIDOM_Node&)>& enter,

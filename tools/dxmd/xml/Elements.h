@@ -57,6 +57,9 @@ std::optional<I18NString> attribute(const TRNIDOM_Element& element, const I18NSt
 /// @throws XmlError
 void refuseNested(const TRNIDOM_Element& root, const I18NString& name);
 
+/// The node as XML, which ends with a line feed.
+std::string xmlText(const TRNIDOM_Node& node, unsigned indent);
+
 /// Enters and leaves every node below the root, in document order. Trees may be of any depth. What is entered may be
 /// changed, but for its place in the tree.
 void walk(const TRNIDOM_Node& root, const std::function<void(TRNIDOM_Node&)>& enter,

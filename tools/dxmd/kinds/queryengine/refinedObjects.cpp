@@ -36,11 +36,12 @@ Kind kinds::refinedObjects() {
   Kind kind = kindOf(make, take);
   kind.summary = "Reply to refineObjects";
   kind.purpose = "The query engine's answer to refineObjects: the IDs of objects, to be read one by one.";
-  kind.notes = R"(Nothing, not even the white space of --indent, may stand between the "expression" elements.)";
+  kind.notes = R"(With --exact nothing, not even white space, may stand between the "expression" elements.)";
   kind.helper = "VqeRefineObjectsHelper";
   kind.writes = Does::kTool;
   kind.roots = {"response"};
   kind.orHolding = {"response"};
+  kind.marks = {"expression"};
   kind.example = R"({"objectIDs": ["[Sales].[Orders]", "[Sales].[Products].[Product name]"]})";
   return kind;
 }

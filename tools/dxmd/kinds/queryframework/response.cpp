@@ -276,7 +276,7 @@ Kind kinds::response() {
 data sources that the queries used, the columns of the result, and its rows.)";
   kind.notes = R"(With --format csv, ndjson or table the rows alone print. A value of a row that is NULL, which has
 no attribute "v", is null in JSON and an empty field in CSV and a table; an empty text is "" in all.
-The parts are found at any depth. Between the columns no white space may stand.)";
+The parts are found at any depth. With --exact no white space may stand between the columns.)";
   kind.helper = "QFResponseDomHelper";
   kind.writes = Does::kTool;
   kind.roots = {"response"};

@@ -62,6 +62,17 @@ ValidateReply take(TRNIDOM_Element& root) {
   return reply;
 }
 
+/// The messages that are errors, which a reply to another command may hold as well.
+std::string errorsIn(const TRNIDOM_Element& root) {
+  std::string errors;
+  for (const TRNIDOM_Node message : root.getElementsByTagName("message")) {
+    const I18NString severity = TRNIDOM_Element(message).getAttribute("severity");
+    if (severity != severityText(kSeverityFatal) && severity != severityText(kSeverityError)) continue;
+    errors += (errors.empty() ? "" : "; ") + severity.toUtf8() + ": " + textOf(message).toUtf8();
+  }
+  return errors;
+}
+
 }  // namespace
 
 Kind kinds::validateReply() {
@@ -77,6 +88,7 @@ of that severity; where it is "none", as one without a severity.)";
   kind.writes = Does::kTool;
   kind.roots = {"response"};
   kind.orHolding = {"message"};
+  kind.errors = errorsIn;
   kind.example = R"({
   "severity": "error",
   "messages": "Item is not used\nItem is unknown\n"

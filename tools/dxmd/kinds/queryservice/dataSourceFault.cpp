@@ -2,10 +2,13 @@
 #include <cstddef>
 #include <deque>
 #include <optional>
+#include <string>
 #include <utility>
 #include <vector>
 
 #include <dxmd/queryservice/QsDataSourceFaultHelper.h>
+#include <trnidom/TRNIDOM_Helper.h>
+
 #include <tools/dxmd/Kind.h>
 #include <tools/dxmd/xml/Elements.h>
 
@@ -215,6 +218,15 @@ Fault take(TRNIDOM_Element& root) {
   return fault;
 }
 
+/// A fault is one, whatever it says; another element, when it says something of one.
+std::string errorsIn(const TRNIDOM_Element& root) {
+  std::string said;
+  for (const char* part : {"faultcode", "faultSubcode", "faultstring", "faultSubstring"})
+    if (const I18NString text = textOf(TRNIDOM_Helper::findFirstElement(root, part)); !text.empty())
+      said += ": " + text.toUtf8();
+  return said.empty() && root.getNodeName() != "fault" ? "" : "a fault" + said;
+}
+
 }  // namespace
 
 Kind kinds::dataSourceFault() {
@@ -226,6 +238,7 @@ sign-on is at fault: what is wrong, with what, and descriptions of the data sour
   kind.writes = Does::kTool;
   kind.roots = {"fault"};
   kind.orHolding = {"faultcode", "faultstring", "faultDataSource", "faultConnection", "faultSignon", "dataSource"};
+  kind.errors = errorsIn;
   kind.example = R"({
   "faultcode": "Server",
   "faultSubcode": "DS-17",

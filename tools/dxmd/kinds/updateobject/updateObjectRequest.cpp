@@ -146,8 +146,10 @@ document is written back as XML. A "refobj" that does not begin with text is ref
   kind.helper = "DXUpdateObjectRequestHelper";
   kind.reply = "updateObjectResponse";
   kind.roots = {"updateObjectRequest"};
-  kind.options = {{KindOption::kDecode, kMapIDs, "FILE",
-                   "Replace object IDs by this JSON object of old and new ones, and write XML"}};
+  KindOption mapIDsOption{KindOption::kDecode, kMapIDs, "FILE",
+                          "Replace object IDs by this JSON object of old and new ones, and write XML"};
+  mapIDsOption.keepsDocument = true;
+  kind.options = {mapIDsOption};
   kind.example = R"({
   "tasks": [
     {

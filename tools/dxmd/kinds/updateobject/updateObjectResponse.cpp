@@ -1,5 +1,6 @@
 #include <cstddef>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include <dxmd/updateobject/DXUpdateObjectResponseHelper.h>
@@ -117,6 +118,17 @@ Decoded decodeResponse(TRNIDOM_Element& root, const KindOptions& options) {
   return options.value(kFeedback) == "text" ? decodeRendered(root) : decodedRecord(take(root));
 }
 
+/// The errors of its tasks.
+std::string errorsIn(const TRNIDOM_Element& root) {
+  std::string errors;
+  for (const TRNIDOM_Node task : root.getElementsByTagName("task")) {
+    const TRNIDOM_Element error = firstChild(task, "error");
+    if (!error.isNull())
+      errors += (errors.empty() ? "" : "; ") + error.getAttribute("code").toUtf8() + ": " + textOf(error).toUtf8();
+  }
+  return errors;
+}
+
 }  // namespace
 
 Kind kinds::updateObjectResponse() {
@@ -128,6 +140,7 @@ touched, the error if it failed, and the messages reported.)";
   kind.notes = R"(A received task and its parts are found at any depth, but no task may stand inside another.)";
   kind.helper = "DXUpdateObjectResponseHelper";
   kind.roots = {"updateObjectResponse"};
+  kind.errors = errorsIn;
   kind.options = {{KindOption::kDecode,
                    kFeedback,
                    "json|text",

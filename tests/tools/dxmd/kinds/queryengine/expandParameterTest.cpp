@@ -27,6 +27,8 @@ TEST(ExpandParameterKind, LocaleFeedbackConnectionAndIdentifiersHaveTheirPlaces)
 TEST(ExpandParameterKind, CommandWithoutItsPartsIsRefused) {
   expectFailure(kStatusUnfit, R"(standard input: /command/dxCommand: the element "source" is missing)",
                 run({"decode", "expandParameter"}, "<command><dxCommand><expand/></dxCommand></command>"));
-  expectFailure(kStatusUnfit, R"(standard input: no expandParameter: its command is not "expand")",
-                run({"decode", "expandParameter"}, "<command><dxCommand><getJoinPaths/></dxCommand></command>"));
+  expectFailure(
+      kStatusUnfit,
+      R"(standard input: no expandParameter: its command is not "expand"; it is getJoinPaths; try dxmd decode getJoinPaths)",
+      run({"decode", "expandParameter"}, "<command><dxCommand><getJoinPaths/></dxCommand></command>"));
 }

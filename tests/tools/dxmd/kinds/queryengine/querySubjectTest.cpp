@@ -42,5 +42,7 @@ TEST(QuerySubjectKind, CommandThatNoJsonMakesIsRefusedWithItsPlace) {
   expectRefused(in + R"(/definition/q/sql[1]: the first "type" that is "veltra" is written as "Veltra")",
                 commandOf(R"(<q><sql type="veltra"/><sql type="Veltra"/></q>)"));
   expectRefused(in + R"(: its name is not "aBmtQuerySubject")", commandOf("<q/>", "other"));
-  expectRefused(R"(standard input: no querySubject: its command is not "querySubject")", inDXEnvelope("<expand/>"));
+  expectRefused(
+      R"(standard input: no querySubject: its command is not "querySubject"; it is expandParameter; try dxmd decode expandParameter)",
+      inDXEnvelope("<expand/>"));
 }

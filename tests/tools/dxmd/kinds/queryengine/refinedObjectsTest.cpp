@@ -14,7 +14,7 @@ TEST(RefinedObjectsKind, ObjectsAreReadInOrder) {
       decoded("refinedObjects", "<r><response><expression>b</expression><expression>a</expression></response></r>"));
   EXPECT_EQ("{\"objectIDs\":[]}\n", decoded("refinedObjects", "<response/>"));
   EXPECT_EQ(kStatusUnfit,
-            run({"decode", "refinedObjects"}, "<response><expression>a</expression>\n</response>").status);
+            run({"decode", "refinedObjects", "--exact"}, "<response><expression>a</expression>\n</response>").status);
 }
 
 TEST(RefinedObjectsKind, ReplyIsWrittenForTheLibraryToRead) {

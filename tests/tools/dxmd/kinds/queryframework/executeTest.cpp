@@ -138,6 +138,8 @@ TEST(ExecuteKind, CommandThatNoJsonMakesIsRefusedWithItsPlace) {
                 "<queries>" +
                     queryOf("J", R"(<joinOperation><joinOperands><joinOperand/></joinOperands></joinOperation>)") +
                     "</queries>");
-  expectFailure(kStatusUnfit, R"(standard input: no execute: its command is not "execute")",
-                run({"decode", "execute"}, "<command><closeConnections/></command>"));
+  expectFailure(
+      kStatusUnfit,
+      R"(standard input: no execute: its command is not "execute"; it is closeConnections; try dxmd decode closeConnections)",
+      run({"decode", "execute"}, "<command><closeConnections/></command>"));
 }

@@ -28,6 +28,7 @@ TEST(UpdateKind, CapturedCommandDecodesToWhatMakesIt) {
 TEST(UpdateKind, CommandWithoutItsPartsIsRefused) {
   expectFailure(kStatusUnfit, R"(standard input: /command/update: the element "updateSet" is missing)",
                 run({"decode", "update"}, "<command><update/></command>"));
-  expectFailure(kStatusUnfit, R"(standard input: no update: its command is not "update")",
+  expectFailure(kStatusUnfit,
+                R"(standard input: no update: its command is not "update"; it is validate; try dxmd decode validate)",
                 run({"decode", "update"}, "<command><validate/></command>"));
 }
