@@ -9,6 +9,7 @@
 #include <tools/dxmd/Files.h>
 #include <tools/dxmd/Kind.h>
 #include <tools/dxmd/ToolError.h>
+#include <tools/dxmd/text/Escape.h>
 
 namespace dxmd_tool {
 
@@ -53,11 +54,14 @@ void shape(Shape& s, FileFromText& file) {
 
 /// A line of the file. Text of another encoding is refused rather than sent spoilt.
 I18NString decodedLine(const std::string& path, std::size_t number, std::string_view line) {
-  std::string refusal = path + ":" + std::to_string(number) + ": not UTF-8";
+  const std::string place = path + ":" + std::to_string(number) + ": ";
+  std::string refusal = place + "not UTF-8";
   const auto refuse = [](void* message, const char*, std::size_t) {
     throw ToolError(kStatusUnfit, *static_cast<const std::string*>(message));
   };
-  return {line.data(), nullptr, static_cast<long>(line.size()), refuse, &refusal};
+  I18NString decoded(line.data(), nullptr, static_cast<long>(line.size()), refuse, &refusal);
+  if (const std::string why = refusedByXml(line); !why.empty()) throw ToolError(kStatusUnfit, place + why);
+  return decoded;
 }
 
 /// The lines of a text file, without line ends and byte order mark.

@@ -38,6 +38,9 @@ TEST(DefinitionFileKind, FilesWithoutLinesOrInAnotherEncodingAreRefused) {
   expectFailure(kStatusUnfit, empty + ": must not be empty", run({"encode", "definitionFile", "--from", empty}));
   const std::string latin = folder.add("latin", "ok\n\xE9t\xE9\n");
   expectFailure(kStatusUnfit, latin + ":2: not UTF-8", run({"encode", "definitionFile", "--from", latin}));
+  const std::string control = folder.add("control", "ok\na\x01\n");
+  expectFailure(kStatusUnfit, control + ":2: U+0001 is no character of XML",
+                run({"encode", "definitionFile", "--from", control}));
   expectFailure(kStatusUnfit, "standard input: $.contents: must not be empty",
                 run({"encode", "definitionFile"}, R"({"contents": []})"));
 }
