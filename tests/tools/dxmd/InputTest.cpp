@@ -180,6 +180,32 @@ TEST(DecodeLarge, CapturedRowsAreReadOneByOne) {
   EXPECT_TRUE(has(run({"decode"}, embedded).err, "unless its kind is named: dxmd decode materializeRequest"));
 }
 
+TEST(DecodeHostile, WhatWouldGrowWithTheSquareOfTheDepthIsRefused) {
+  const auto nested = [](const std::string& start, const std::string& end) {
+    std::string xml;
+    for (int level = 0; level < 2000; ++level) xml += start;
+    for (int level = 0; level < 2000; ++level) xml += end;
+    return xml;
+  };
+  const std::string why = "nest so deep that the result would be many times larger than the document\n";
+  const ToolRun fault =
+      run({"decode", "dataSourceFault"},
+          "<fault>" + nested("<dataSource><name value='a'/><connection/>", "</dataSource>") + "</fault>");
+  EXPECT_EQ(1, fault.status);
+  EXPECT_TRUE(has(fault.err, "/connection: it belongs to each of the \"dataSource\" and \"connection\" elements") &&
+              has(fault.err, why))
+      << fault.err;
+  const ToolRun references = run({"decode", "retargetObjectReferences"},
+                                 "<retargetObjectReferences>" +
+                                     nested("<entry currentRefValue='a'><updateInfo newRefValue='b'/>", "</entry>") +
+                                     "</retargetObjectReferences>");
+  EXPECT_EQ(1, references.status);
+  EXPECT_TRUE(has(references.err, why)) << references.err;
+  EXPECT_EQ(1, run({"decode", "updateObjectRequest"},
+                   "<updateObjectRequest>" + nested("<task name='removeObject'>", "</task>") + "</updateObjectRequest>")
+                   .status);
+}
+
 TEST(Format, IndentsAndHidesSecretsInAnyXml) {
   const ToolRun shown =
       run({"format"},

@@ -1,5 +1,6 @@
 #include "Elements.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <trnidom/TRNIDOM_DOMImplementation.h>
@@ -30,6 +31,13 @@ std::string step(const TRNIDOM_Node& node) {
     if (isElementOf(before, name)) ++position;
   const bool isOnly = position == 1 && nextSibling(node, name).isNull();
   return "/" + name.toUtf8() + (isOnly ? "" : "[" + std::to_string(position) + "]");
+}
+
+/// `"a" and "b"`
+std::string joinedNames(const std::vector<std::string>& names) {
+  std::string all;
+  for (const std::string& name : names) all += (all.empty() ? "" : " and ") + inQuotes(name);
+  return all;
 }
 
 }  // namespace
@@ -100,6 +108,42 @@ void refuseNested(const TRNIDOM_Element& root, const I18NString& name) {
   for (const TRNIDOM_Node outer : root.getElementsByTagName(name))
     if (const TRNIDOM_Element inner = TRNIDOM_Helper::findFirstElement(outer, name); !inner.isNull())
       refuse(inner, "it stands inside another " + inQuotes(name.toUtf8()));
+}
+
+void refuseHeldByMany(const TRNIDOM_Node& root, const std::vector<std::string>& holders,
+                      const std::vector<std::string>& held) {
+  // What ordinary documents list is no more than their elements; small ones may nest as they like.
+  constexpr std::size_t kMost = 100000;
+  constexpr std::size_t kMostForEach = 20;
+  std::vector<std::size_t> open(holders.size(), 0);
+  const auto openOf = [&](const TRNIDOM_Node& node) -> std::size_t* {
+    if (node.getNodeType() != TRNIDOM_Node::ELEMENT_NODE) return nullptr;
+    const auto found = std::find(holders.begin(), holders.end(), node.getNodeName().toUtf8());
+    return found == holders.end() ? nullptr : &open[static_cast<std::size_t>(found - holders.begin())];
+  };
+  std::size_t elements = 0;
+  std::size_t listed = 0;
+  walk(
+      root,
+      [&](const TRNIDOM_Node& node) {
+        if (node.getNodeType() != TRNIDOM_Node::ELEMENT_NODE) return;
+        ++elements;
+        if (std::find(held.begin(), held.end(), node.getNodeName().toUtf8()) != held.end()) {
+          std::size_t times = 1;
+          // Not larger than the bound, which keeps the product from wrapping round.
+          for (const std::size_t count : open)
+            if (count > 0) times = times > kMost / count ? kMost : times * count;
+          listed += times;
+          if (listed > kMost + kMostForEach * elements)
+            refuse(node, "it belongs to each of the " + joinedNames(holders) +
+                             " elements that it stands in, and they nest so deep that the result would be many times "
+                             "larger than the document");
+        }
+        if (std::size_t* const count = openOf(node)) ++*count;
+      },
+      [&](const TRNIDOM_Node& node) {
+        if (std::size_t* const count = openOf(node)) --*count;
+      });
 }
 
 std::string xmlText(const TRNIDOM_Node& node, unsigned indent) {

@@ -57,6 +57,14 @@ std::optional<I18NString> attribute(const TRNIDOM_Element& element, const I18NSt
 /// @throws XmlError
 void refuseNested(const TRNIDOM_Element& root, const I18NString& name);
 
+/// Refuses an element inside too many that are each read with all that is below them: what is read would grow with the
+/// square of the depth. Documents have a few.
+/// @param holders  the names of those.
+/// @param held     the names of the elements that belong to each.
+/// @throws XmlError
+void refuseHeldByMany(const TRNIDOM_Node& root, const std::vector<std::string>& holders,
+                      const std::vector<std::string>& held);
+
 /// The node as XML, which ends with a line feed.
 std::string xmlText(const TRNIDOM_Node& node, unsigned indent);
 

@@ -2,6 +2,7 @@
 
 #include <dxmd/modelactions/DXActionHelperRetargetObjectReferences.h>
 #include <tools/dxmd/Kind.h>
+#include <tools/dxmd/xml/Elements.h>
 
 namespace dxmd_tool {
 
@@ -50,6 +51,7 @@ TRNIDOM_Element make(const RetargetObjectReferences& references) {
 }
 
 RetargetObjectReferences take(TRNIDOM_Element& root) {
+  refuseHeldByMany(root, {"entry", "updateInfo"}, {"updateInfo", "itemToUpdate"});
   Retarget helper;
   helper.Take(root);
   return {helper.getEntries()};

@@ -199,6 +199,7 @@ class DataSources {
 };
 
 Fault take(TRNIDOM_Element& root) {
+  refuseHeldByMany(root, {"dataSource", "connection"}, {"connection", "signon"});
   Helper helper;
   helper.Take(root);
   Fault fault{helper.GetFaultCode(),
