@@ -36,10 +36,10 @@ class EveryKind : public testing::TestWithParam<std::string> {
     std::istringstream in(json.dump());
     try {
       std::string xml = encode(kind(), Settings(), in);
-      keepEncoded(GetParam(), in.str());
+      keepEncoded(GetParam(), in.str(), xml);
       return xml;
     } catch (const ToolError& error) {
-      keepEncoded(GetParam(), in.str(), error.what());
+      keepEncoded(GetParam(), in.str(), "", error.what());
       throw;
     }
   }

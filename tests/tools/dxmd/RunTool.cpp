@@ -17,7 +17,8 @@ ToolRun run(const std::vector<std::string>& args, const std::string& in) {
   std::ostringstream out;
   std::ostringstream err;
   const int status = dxmd_tool::runTool(args, input, out, err);
-  if (args.size() == 2 && args[0] == "encode" && status != dxmd_tool::kStatusUsage) keepEncoded(args[1], in, err.str());
+  if (args.size() == 2 && args[0] == "encode" && status != dxmd_tool::kStatusUsage)
+    keepEncoded(args[1], in, out.str(), err.str());
   return {status, out.str(), err.str()};
 }
 
@@ -67,11 +68,12 @@ void expectJsonError(dxmd_tool::JsonError::Cause cause, const std::string& messa
   }
 }
 
-void keepEncoded(const std::string& kind, const std::string& json, const std::string& refusal) {
+void keepEncoded(const std::string& kind, const std::string& json, const std::string& xml, const std::string& refusal) {
   const char* const folder = std::getenv("DXMD_TEST_ENCODED");
   // What is no JSON is nothing for a schema.
   if (folder == nullptr || !dxmd_tool::Json::accept(json)) return;
-  const dxmd_tool::Json kept = {{"kind", kind}, {"json", dxmd_tool::Json::parse(json)}, {"refusal", refusal}};
+  const dxmd_tool::Json kept = {
+      {"kind", kind}, {"json", dxmd_tool::Json::parse(json)}, {"xml", xml}, {"refusal", refusal}};
   std::ofstream(folder + ("/" + std::to_string(::getpid())), std::ios::app)
       << kept.dump(-1, ' ', false, dxmd_tool::Json::error_handler_t::replace) << "\n";
 }

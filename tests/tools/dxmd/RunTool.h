@@ -41,8 +41,9 @@ void expectToolError(dxmd_tool::Status status, const std::string& message, const
 void expectJsonError(dxmd_tool::JsonError::Cause cause, const std::string& message,
                      const std::function<void()>& action);
 
-/// Keeps for SchemaTest.py what was encoded, or refused for that reason, where DXMD_TEST_ENCODED names a folder.
-void keepEncoded(const std::string& kind, const std::string& json, const std::string& refusal = "");
+/// Keeps for the tests of schemas what was encoded, or refused for that reason, where DXMD_TEST_ENCODED names a folder.
+void keepEncoded(const std::string& kind, const std::string& json, const std::string& xml,
+                 const std::string& refusal = "");
 
 }  // namespace dxmd_test
 
