@@ -1,5 +1,6 @@
 """What the tests of the XML Schemas have in common: documents and the validators that they are tried with."""
 
+import json
 import pathlib
 import re
 import subprocess
@@ -51,4 +52,22 @@ def refused_by_xmllint(schemas, kind, documents):
                 raise RuntimeError(line)
         if (run.returncode == 0) != (not refused):
             raise RuntimeError(run.stderr)
+        return refused
+
+
+def refused_by_dxmd(dxmd, kind, documents):
+    """The documents that `dxmd check` refuses, with Xerces-C, each with what it says first."""
+    with Folder(documents) as folder:
+        command = [dxmd, "check", kind, "--errors", "json", *folder.documents]
+        run = subprocess.run(command, capture_output=True, text=True, check=False)
+        if run.stderr:
+            raise RuntimeError(run.stderr)
+        refused = {}
+        for file in json.loads(run.stdout):
+            if not file["wellFormed"]:
+                raise RuntimeError(file["errors"])
+            if not file["fits"]:
+                refused[folder.documents[file["file"]]] = file["errors"][0]["message"]
+        if (run.returncode == 0) != (not refused):
+            raise RuntimeError(f"status {run.returncode}")
         return refused

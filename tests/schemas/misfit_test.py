@@ -6,7 +6,7 @@ import re
 import subprocess
 import sys
 
-from documents import refused_by_xmllint
+from documents import refused_by_dxmd, refused_by_xmllint
 
 
 def swap(first, second):
@@ -205,15 +205,19 @@ def main(schemas, dxmd):
             for name in re.findall(r"<([A-Z]\w+)", replacement):  # the end tag of a start tag that was renamed
                 made = re.sub(f"</{name}>", f"</{name}>", made, count=1, flags=re.IGNORECASE)
             broken[made] = f"{pattern} -> {replacement}"
-        refused = refused_by_xmllint(schemas, kind, [document, *broken])
-        if document in refused:
-            print(f"{kind}: xmllint refuses the example: {refused[document]}")
-            wrong += 1
-        for made, change in broken.items():
-            if made not in refused:
-                print(f"{kind}: xmllint takes {change}: {made}")
+        documents = [document, *broken]
+        for validator, refused in {
+            "xmllint": refused_by_xmllint(schemas, kind, documents),
+            "dxmd check": refused_by_dxmd(dxmd, kind, documents),
+        }.items():
+            if document in refused:
+                print(f"{kind}: {validator} refuses the example: {refused[document]}")
                 wrong += 1
+            for made, change in broken.items():
+                if made not in refused:
+                    print(f"{kind}: {validator} takes {change}: {made}")
+                    wrong += 1
     return 1 if wrong else 0
 
 
-sys.exit(main(sys.argv[1], sys.argv[2]))
+sys.exit(main(*sys.argv[1:]))

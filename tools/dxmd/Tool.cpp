@@ -30,7 +30,8 @@ namespace dxmd_tool {
 
 namespace {
 
-const char* const kDescription = "Encodes and decodes the messages between the modelling client and its services.";
+const char* const kDescription =
+    "Encodes, decodes and checks the messages between the modelling client and its services.";
 
 const char* const kVerbFooter = R"(FILE absent or "-" is standard input. The options and notes of a kind: dxmd )";
 
@@ -57,6 +58,7 @@ class CommandLine {
     setUsage(m_app, "VERB [OPTIONS] ...");
     m_encode = addVerb("encode", "Read JSON, write the message as XML", KindOption::kEncode);
     m_decode = addVerb("decode", "Read XML, write what the message holds as JSON", KindOption::kDecode);
+    addCheck();
     addFormat();
     addDiff();
     m_kinds = m_app.add_subcommand("kinds", "List the kinds of messages, or describe one");
@@ -114,7 +116,7 @@ class CommandLine {
     });
     progress.reset();
     // A file that would hold a part of the result stays as it was.
-    const bool isWhole = status == kStatusOk || status == kStatusReported || m_diff->parsed();
+    const bool isWhole = status == kStatusOk || status == kStatusReported || m_diff->parsed() || m_check->parsed();
     if (isWhole || m_settings.output.empty() || m_settings.output == "-") output->finish();
     return status;
   }
@@ -176,6 +178,31 @@ class CommandLine {
     return app;
   }
 
+  void addCheck() {
+    m_check = m_app.add_subcommand("check", "Check messages against the schemas of their kinds");
+    m_check->add_option("FILE", m_files, "The XML to check; in front the name of its kind may stand")->option_text(" ");
+    m_check->footer(
+        "Says of each file whether it is well-formed, of what kind the message in it is, and each place that does\n"
+        "not fit, with line and column. FILE absent or \"-\" is standard input. A first FILE that has the name of a\n"
+        "kind is written ./FILE.");
+    setUsage(*m_check, "check [OPTIONS] [KIND] [FILE]...");
+    m_check->add_option("--errors", m_errors, "How to say it: as text, by default, or as JSON")
+        ->option_text("text|json")
+        ->check(CLI::IsMember({"text", "json"}));
+    addNamespace(*m_check, "--query-service-namespace", m_queryServiceNamespace,
+                 "The namespace of commands, where the deployment has its own");
+    addNamespace(*m_check, "--service-bus-namespace", m_serviceBusNamespace,
+                 "The namespace of the types of parameter values, where the deployment has its own");
+    m_check->add_option("--schemas", m_checkSettings.schemas, "The folder of the schemas")->option_text("FOLDER");
+    addOutput(*m_check);
+  }
+
+  static void addNamespace(CLI::App& app, const char* name, std::string& uri, const char* help) {
+    app.add_option(name, uri, help)->option_text("URI")->check([](const std::string& given) {
+      return given.empty() ? "must not be empty" : "";
+    });
+  }
+
   void addFormat() {
     m_format = m_app.add_subcommand("format", "Print XML indented and without secrets");
     m_format->add_option("FILE", m_settings.file, "The XML to read")->option_text(" ");
@@ -216,10 +243,8 @@ class CommandLine {
                      "Spaces per level, for people to read: several readers take no white space between elements")
           ->option_text("N")
           ->check(CLI::Range(0U, 16U));
-      app.add_option("--query-service-namespace", m_queryServiceNamespace,
-                     "The namespace that commands declare, where the deployment has its own")
-          ->option_text("URI")
-          ->check([](const std::string& uri) { return uri.empty() ? "must not be empty" : ""; });
+      addNamespace(app, "--query-service-namespace", m_queryServiceNamespace,
+                   "The namespace that commands declare, where the deployment has its own");
     } else {
       app.add_option("--indent", m_settings.indent, "Spaces per level of the JSON, by default 2; 0 writes one line")
           ->option_text("N")
@@ -270,6 +295,12 @@ class CommandLine {
     m_settings.kindOptions = KindOptions(m_kindValues);
     if (!m_queryServiceNamespace.empty()) DXNamespaces::SetQueryService(m_queryServiceNamespace.c_str());
     if (m_decode->parsed()) return decodeAll(kindToDecode(), m_settings, inputs(), in, out, tellMessage);
+    if (!m_serviceBusNamespace.empty()) DXNamespaces::SetServiceBus(m_serviceBusNamespace.c_str());
+    if (m_check->parsed()) {
+      m_checkSettings.errorsAsJson = m_errors == "json";
+      const Kind* const kind = takeKindToCheck();  // leaves the files
+      return check(kind, m_settings, m_checkSettings, inputs(), in, out);
+    }
     if (m_diff->parsed()) {
       const Kind* const kind = m_kindName.empty() ? nullptr : &findKind(m_kindName);
       return diff(kind, m_settings, m_files[0], m_files[1], in, out) ? kStatusOk : kStatusUnfit;
@@ -360,11 +391,22 @@ class CommandLine {
     const std::vector<std::string> extras = m_decode->remaining();
     if (!extras.empty()) failUnexpected(extras[0]);
     if (const auto kinds = m_decode->get_subcommands(); !kinds.empty()) return &findKind(kinds[0]->get_name());
-    // What looks like a name and is no file may be a kind that was mistyped.
-    const bool mayBeKind = !m_files.empty() && m_files[0].find_first_of("./-") == std::string::npos;
-    std::error_code error;
-    if (mayBeKind && !std::filesystem::exists(m_files[0], error)) findKind(m_files[0]);
+    if (!m_files.empty() && mayBeKind(m_files[0])) findKind(m_files[0]);
     return nullptr;
+  }
+
+  /// Takes the kind that check was given from in front of the files; null when it is to be found out.
+  const Kind* takeKindToCheck() {
+    if (m_files.empty() || !(isKind(m_files[0]) || mayBeKind(m_files[0]))) return nullptr;
+    const Kind& kind = findKind(m_files[0]);
+    m_files.erase(m_files.begin());
+    return &kind;
+  }
+
+  /// What looks like a name and is no file may be a kind that was mistyped.
+  static bool mayBeKind(const std::string& file) {
+    std::error_code error;
+    return file.find_first_of("./-") == std::string::npos && !std::filesystem::exists(file, error);
   }
 
   static bool isOption(const std::string& argument) { return argument.compare(0, 1, "-") == 0; }
@@ -386,6 +428,7 @@ class CommandLine {
   CLI::App m_app;
   CLI::App* m_encode;
   CLI::App* m_decode;
+  CLI::App* m_check;
   CLI::App* m_format;
   CLI::App* m_diff;
   CLI::App* m_kinds;
@@ -395,6 +438,9 @@ class CommandLine {
   Settings m_settings;
   std::vector<std::string> m_files;
   std::string m_queryServiceNamespace;
+  std::string m_serviceBusNamespace;
+  std::string m_errors;
+  CheckSettings m_checkSettings;
   std::string m_kindName;
   std::string m_helpVerb;
   bool m_manual = false;

@@ -18,6 +18,9 @@ enum Status {
   kStatusReported = 6,  ///< the input is a reply that reports errors
 };
 
+/// What counts most of several statuses.
+Status worse(Status one, Status other);
+
 /// What ends a run: its exit status and the one line that says why, which begins with the name of the file concerned,
 /// or is empty when nothing is to be said.
 class ToolError : public std::runtime_error {

@@ -53,6 +53,18 @@ void format(const Settings& settings, std::istream& in, Output& out);
 bool diff(const Kind* kind, const Settings& settings, const std::string& left, const std::string& right,
           std::istream& in, Output& out);
 
+/// How documents are checked.
+struct CheckSettings {
+  std::string schemas;  ///< the folder of the schemas; empty is that of the installation
+  bool errorsAsJson = false;
+};
+
+/// Says of each file whether it is well-formed, of what kind it is, and where it does not fit the schema of that kind.
+/// @param kind  null for each to be of the kind that it is found to be.
+/// @return the worst of their statuses.
+Status check(const Kind* kind, const Settings& settings, const CheckSettings& how,
+             const std::vector<std::string>& files, std::istream& in, Output& out);
+
 /// The kinds, one line each.
 std::string listKinds();
 

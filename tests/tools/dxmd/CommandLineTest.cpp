@@ -41,13 +41,15 @@ TEST(CommandLine, WrongUsageIsStatus2) {
   expectFailure(kStatusUsage, "--query-service-namespace: must not be empty (see dxmd encode execute --help)",
                 run({"encode", "execute", "--query-service-namespace", ""}, "{}"));
   EXPECT_EQ(2, run({"encode", "execute", "--query-service-namespace="}, "{}").status);
-  expectFailure(kStatusUsage,
-                "a verb is needed: encode, decode, format, diff, kinds, example, schema or help (see dxmd --help)",
-                run({}));
-  expectFailure(kStatusUsage,
-                "\"foo\" is no verb; the verbs are encode, decode, format, diff, kinds, example, schema and help (see "
-                "dxmd --help)",
-                run({"foo"}));
+  expectFailure(
+      kStatusUsage,
+      "a verb is needed: encode, decode, check, format, diff, kinds, example, schema or help (see dxmd --help)",
+      run({}));
+  expectFailure(
+      kStatusUsage,
+      "\"foo\" is no verb; the verbs are encode, decode, check, format, diff, kinds, example, schema and help (see "
+      "dxmd --help)",
+      run({"foo"}));
   expectFailure(kStatusUsage, "a kind of message is needed (see dxmd encode --help)", run({"encode"}));
   expectFailure(kStatusUsage, "unexpected argument \"--x\" (see dxmd encode execute --help)",
                 run({"encode", "--x", "execute"}));
@@ -94,7 +96,8 @@ TEST(CommandLine, HelpIsAVerbToo) {
   expectFailure(kStatusUsage, "unexpected argument \"response\" (see dxmd help --help)",
                 run({"help", "kinds", "response"}));
   expectFailure(kStatusUsage,
-                "\"response\" is a kind of message, and a verb is needed: encode, decode, kinds, example, schema or "
+                "\"response\" is a kind of message, and a verb is needed: encode, decode, check, format, diff, kinds, "
+                "example, schema or "
                 "help (see dxmd --help)",
                 run({"response"}));
 }

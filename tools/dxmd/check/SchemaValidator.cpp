@@ -244,13 +244,13 @@ class Reader final : public xml::SAX2XMLReaderImpl {
   /// @return what is wrong with the schema; empty when nothing is.
   std::string load(const xml::InputSource& schema) {
     const xml::Grammar* const grammar = loadGrammar(schema, xml::Grammar::SchemaGrammarType, true);
-    if (grammar == nullptr && m_firstError.empty()) m_firstError = "it has no content";
+    if (grammar == nullptr && m_schemaError.empty()) m_schemaError = "it has no content";
     if (grammar != nullptr) m_namespace = toUtf8(grammar->getTargetNamespace());
     // Only now: it can read no schemas. The reader owns it.
     auto validator = std::make_unique<Validator>();
     m_validator = validator.get();
     setValidator(validator.release());
-    return m_firstError;
+    return m_schemaError;
   }
 
   std::vector<Misfit> read(const xml::InputSource& document) {
@@ -285,8 +285,8 @@ class Reader final : public xml::SAX2XMLReaderImpl {
 
   void error(unsigned int code, const XMLCh* const domain, xml::XMLErrorReporter::ErrTypes, const XMLCh* const text,
              const XMLCh* const, const XMLCh* const, XMLFileLoc, XMLFileLoc) override {
-    if (m_firstError.empty()) m_firstError = toUtf8(text);
-    if (isInUnknown()) return;
+    if (m_validator == nullptr && m_schemaError.empty()) m_schemaError = toUtf8(text);
+    if (m_validator == nullptr || isInUnknown()) return;
     if (xml::XMLString::equals(domain, xml::XMLUni::fgValidityDomain))
       addValidity(static_cast<xml::XMLValid::Codes>(code), toUtf8(text));
     else if (xml::XMLString::equals(domain, xml::XMLUni::fgExceptDomain))
@@ -383,7 +383,7 @@ class Reader final : public xml::SAX2XMLReaderImpl {
 
   Validator* m_validator = nullptr;
   xml::DefaultHandler m_nobody;  ///< without handlers the scanner reports nothing
-  std::string m_firstError;
+  std::string m_schemaError;
   std::string m_namespace;  ///< that the schema is for
   std::vector<Misfit> m_misfits;
   std::vector<OpenElement> m_open;

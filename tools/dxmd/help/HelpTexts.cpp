@@ -27,10 +27,8 @@ const std::vector<StatusText>& statusTexts() {
 
 const std::vector<const char*>& exampleTexts() {
   static const std::vector<const char*> kTexts{
-      "dxmd kinds execute",
-      "dxmd example execute | dxmd encode execute --indent 2",
-      "dxmd decode captured.xml",
-      "dxmd decode response reply.xml --format table",
+      "dxmd kinds execute",      "dxmd example execute | dxmd encode execute --indent 2", "dxmd decode captured.xml",
+      "dxmd check captured.xml", "dxmd decode response reply.xml --format table",
   };
   return kTexts;
 }

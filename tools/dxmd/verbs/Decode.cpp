@@ -139,13 +139,6 @@ void decodeOne(const Kind* asked, const Settings& settings, std::istream& in, Ou
   });
 }
 
-/// What counts most of several statuses.
-Status worse(Status one, Status other) {
-  constexpr Status kFromBest[] = {kStatusOk, kStatusReported, kStatusUnfit, kStatusSyntax, kStatusFile, kStatusMemory};
-  const auto rank = [&](Status status) { return std::find(std::begin(kFromBest), std::end(kFromBest), status); };
-  return rank(one) < rank(other) ? other : one;
-}
-
 }  // namespace
 
 void decode(const Kind& kind, const Settings& settings, std::istream& in, Output& out) {
