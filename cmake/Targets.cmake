@@ -8,6 +8,9 @@ function(dxmd_target_options target)
   # RUNPATH, which LD_LIBRARY_PATH precedes, and not RPATH.
   target_link_options(${target} PRIVATE LINKER:--enable-new-dtags)
   set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+  # The same bytes wherever the tree stands. A debugger is better served with full names.
+  target_compile_options(${target} PRIVATE $<$<NOT:$<CONFIG:Debug>>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>)
+  set_target_properties(${target} PROPERTIES BUILD_RPATH_USE_ORIGIN ON)
   if(DXMD_SANITIZE)
     target_compile_options(${target} PRIVATE -fsanitize=${DXMD_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(${target} PRIVATE -fsanitize=${DXMD_SANITIZE})
