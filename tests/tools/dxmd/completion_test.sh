@@ -46,7 +46,9 @@ expect 'kinds' help ki
 expect 'execute' help encode exe
 expect "reply two.xml reply.xml" decode response re
 expect 'kinds.txt' decode response ki
-expect '' decode response reply.xml kin
+expect '' encode execute reply.xml kin
+expect 'kinds.txt' decode response reply.xml kin
+expect 'kinds.txt' check ki
 expect '--format' decode response --fo
 expect '' decode execute --fo
 expect 'csv json ndjson table' decode response --format ''
