@@ -21,10 +21,13 @@ namespace {
 /// Told of each secret; gives what to write for it.
 using Replace = std::function<std::string(std::string_view secret)>;
 
+std::string replacedInText(const std::string& text, const Replace& replace, unsigned depth);
+
 /// Walks a tree of XML and replaces what it says under the names of secrets.
 class XmlWalk {
  public:
-  explicit XmlWalk(const Replace& replace) : m_replace(replace) {}
+  /// @param depth  of how many texts of XML the tree is within.
+  explicit XmlWalk(const Replace& replace, unsigned depth = 0) : m_replace(replace), m_depth(depth) {}
 
   void visitAll(const TRNIDOM_Node& root) {
     TRNIDOM_Node top = root;
@@ -43,7 +46,7 @@ class XmlWalk {
     } else if (!m_secret.isNull()) {
       change(node, m_replace);
     } else {
-      change(node, [&](std::string_view text) { return withSecretsReplaced(std::string(text), m_replace); });
+      changeText(node);
     }
   }
 
@@ -52,7 +55,11 @@ class XmlWalk {
     if (isSecretName(name) || (!m_secret.isNull() && name != "name"))
       change(attribute, m_replace);
     else
-      change(attribute, [&](std::string_view text) { return withSecretsReplaced(std::string(text), m_replace); });
+      changeText(attribute);
+  }
+
+  void changeText(TRNIDOM_Node& node) {
+    change(node, [&](std::string_view text) { return replacedInText(std::string(text), m_replace, m_depth); });
   }
 
   void change(TRNIDOM_Node& node, const Replace& replace) {
@@ -72,6 +79,7 @@ class XmlWalk {
   }
 
   const Replace& m_replace;
+  const unsigned m_depth;
   TRNIDOM_Node m_secret;  ///< the secret element that the walk is in, or null
   bool m_hasChanged = false;
 };
@@ -81,16 +89,19 @@ bool looksLikeXml(std::string_view text) {
   return first != std::string_view::npos && text[first] == '<';
 }
 
-std::string replacedInText(const std::string& text, const Replace& replace) {
+std::string replacedInText(const std::string& text, const Replace& replace, unsigned depth) {
+  constexpr unsigned kDeepest = 4;
   if (!looksLikeXml(text)) return withSecretsReplaced(text, replace);
   if (!mayHoldSecret(text) && !hasSecretWord(text)) return text;
+  const auto withoutParsing = [&] { return hasSecretWord(text) ? replace(text) : withSecretsReplaced(text, replace); };
+  if (depth == kDeepest) return withoutParsing();
   try {
     const TRNIDOM_Document document = TRNIDOM_Parser::parseString(text);
-    XmlWalk walk(replace);
+    XmlWalk walk(replace, depth + 1);
     walk.visitAll(document);
     return walk.hasChanged() ? TRNIDOM_Writer::toString(document) : text;
   } catch (const TRNIDOM_ParseError&) {
-    return hasSecretWord(text) ? replace(text) : withSecretsReplaced(text, replace);
+    return withoutParsing();
   }
 }
 
@@ -138,7 +149,7 @@ void forEachSecret(const Json& json, const DescribedRecord* record, const JsonPl
     if (isSecret && !value.is_null())
       note(value.is_string() ? value.get_ref<const std::string&>() : value.dump());
     else if (value.is_string())
-      replacedInText(value.get_ref<const std::string&>(), note);
+      replacedInText(value.get_ref<const std::string&>(), note, 0);
   };
   JsonWalk(visit).walk(const_cast<Json&>(json), false, record, place);
 }
@@ -150,7 +161,7 @@ std::string maskOf(std::string_view secret) {
 }  // namespace
 
 std::string shownText(const std::string& text) {
-  return replacedInText(text, maskOf);
+  return replacedInText(text, maskOf, 0);
 }
 
 void maskSecrets(Json& json, const DescribedRecord* record) {

@@ -4,6 +4,7 @@
 
 #include <tools/dxmd/json/Json.h>
 #include <tools/dxmd/json/JsonError.h>
+#include <tools/dxmd/json/Quote.h>
 #include <tools/dxmd/shape/Shape.h>
 
 using namespace dxmd_tool;
@@ -75,6 +76,25 @@ TEST(Secrets, TextsOfXmlAreSearchedToo) {
             masked(R"({"e":"<a connectionString='pwd=p'><connectionString>pwd=p;x</connectionString></a>"})"));
   EXPECT_EQ(R"({"e":"***"})", masked(R"({"e":"<password>p"})"));
   EXPECT_EQ(R"({"e":"<a  b='c'/>"})", masked(R"({"e":"<a  b='c'/>"})"));
+}
+
+TEST(Secrets, TextsOfXmlWithinXmlAreSearchedToo) {
+  const std::string inner = "&lt;p name='password' value='p'/>";
+  EXPECT_EQ(
+      "<a b=\"&lt;p name=&quot;password&quot; value=&quot;***&quot;/>\">&lt;p name=\"password\" value=\"***\"/&gt;</a>",
+      shownText("<a b=\"" + inner + "\">" + inner + "</a>"));
+  std::string deep = "<p name='password' value='planted'/>";
+  for (int i = 0; i < 9; ++i) {
+    for (std::size_t at = 0; (at = deep.find_first_of("<&", at)) != std::string::npos; at += 4)
+      deep.replace(at, 1, deep[at] == '<' ? "&lt;" : "&amp;");
+    deep = "<a>" + deep + "</a>";
+  }
+  EXPECT_EQ(std::string::npos, shownText(deep).find("planted"));
+}
+
+TEST(Secrets, ErrorsQuoteNoneOfXml) {
+  EXPECT_EQ(R"("<p name=\"password\" value=\"***\"/>")", inQuotes("<p name='password' value='p'/>"));
+  EXPECT_EQ(R"("<ticket><a>***</a></ticket>")", inQuotes("<ticket><a>t</a></ticket>"));
 }
 
 TEST(Secrets, NamesAreToldByWholeWords) {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
-#include <tools/dxmd/json/SecretNames.h>
+#include <tools/dxmd/Secrets.h>
 #include <tools/dxmd/text/Escape.h>
 
 namespace dxmd_tool {
@@ -11,7 +11,7 @@ namespace dxmd_tool {
 std::string inQuotes(const std::string& text) {
   constexpr std::size_t kLongest = 60;
   // A secret may go on behind the cut, but what is far behind it cannot matter.
-  const std::string masked = maskedText(text.substr(0, 8 * kLongest));
+  const std::string masked = shownText(text.substr(0, 8 * kLongest));
   std::size_t end = std::min(masked.size(), kLongest);
   while (end < masked.size() && end > 0 && (static_cast<unsigned char>(masked[end]) & 0xC0) == 0x80) --end;
   std::string quoted;
