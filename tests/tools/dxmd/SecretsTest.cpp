@@ -140,6 +140,10 @@ TEST(Secrets, TextsAreMaskedByWhatStandsAroundSecrets) {
   }
 }
 
+TEST(Secrets, LoginThatBeginsInBracketsIsHiddenToItsEnd) {
+  EXPECT_EQ("token:******@base", maskedText("token:[x;scott/a]]b@base"));
+}
+
 TEST(Secrets, MasksAreToldFromSecrets) {
   EXPECT_TRUE(holdsSecrets(Json::parse(R"({"a": [{"connection": "UID=u;PWD=p"}]})"), nullptr));
   EXPECT_FALSE(holdsSecrets(Json::parse(R"({"a": [{"connection": "UID=u;PWD="}], "password": ""})"), nullptr));

@@ -250,14 +250,14 @@ class Finder {
     if (token.substr(0, parting) == "mailto") return;
     if (user > 0 && token[parting] == '/') return;  // a path behind a host
     if (user > 0 && isPortAndPath(token.substr(parting + 1))) return;
-    set(start + parting + 1, last);
+    // It may begin in what was taken for the value of a name.
+    set(std::max(start + parting + 1, m_done), last);
   }
 
   /// Where the run of characters that ends at the sign begins. What was looked at for an earlier sign is not again.
   std::size_t startOfLogin(std::size_t sign) {
-    const std::size_t seen = std::max(m_done, m_loginSeen);
     std::size_t start = sign;
-    while (start > seen && !isSpace(m_text[start - 1]) &&
+    while (start > m_loginSeen && !isSpace(m_text[start - 1]) &&
            "\"'<>;,=({[&?"sv.find(m_text[start - 1]) == std::string_view::npos)
       --start;
     if (start == m_loginSeen && m_loginStart >= m_done) start = m_loginStart;
