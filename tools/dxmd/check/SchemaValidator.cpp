@@ -161,18 +161,11 @@ std::string refusalOf(const xml::DatatypeValidator* type, unsigned code) {
   return "has a value that does not fit its type";
 }
 
-/// A message of the validator without what it quotes, which may be a secret.
-std::string withoutQuoted(const std::string& message) {
-  std::string kept;
-  bool isQuoted = false;
-  for (const char character : message) {
-    if (character == '\'') {
-      if (isQuoted) kept += "...";
-      isQuoted = !isQuoted;
-    }
-    if (!isQuoted || character == '\'') kept += character;
-  }
-  return kept;
+/// A message of the validator without what it quotes, which may be a secret, and may have quotes of its own.
+std::string withoutQuoted(std::string message) {
+  const std::size_t first = message.find('\'');
+  if (first != std::string::npos) message.replace(first + 1, message.rfind('\'') - first - 1, "...");
+  return message;
 }
 
 /// The validator, which also tells what it looks at: its errors do not.
@@ -246,10 +239,9 @@ class Reader final : public xml::SAX2XMLReaderImpl {
     const xml::Grammar* const grammar = loadGrammar(schema, xml::Grammar::SchemaGrammarType, true);
     if (grammar == nullptr && m_schemaError.empty()) m_schemaError = "it has no content";
     if (grammar != nullptr) m_namespace = toUtf8(grammar->getTargetNamespace());
-    // Only now: it can read no schemas. The reader owns it.
-    auto validator = std::make_unique<Validator>();
-    m_validator = validator.get();
-    setValidator(validator.release());
+    // Only now: it can read no schemas. The reader says that it adopts it, and never deletes it.
+    m_validator = std::make_unique<Validator>();
+    setValidator(m_validator.get());
     return m_schemaError;
   }
 
@@ -381,7 +373,7 @@ class Reader final : public xml::SAX2XMLReaderImpl {
     return inQuotes(message.substr(begin, end - begin));
   }
 
-  Validator* m_validator = nullptr;
+  std::unique_ptr<Validator> m_validator;
   xml::DefaultHandler m_nobody;  ///< without handlers the scanner reports nothing
   std::string m_schemaError;
   std::string m_namespace;  ///< that the schema is for

@@ -115,6 +115,10 @@ TEST(Check, SecretsAndControlsAreInNoMessage) {
   EXPECT_EQ(kStatusUnfit, run.status);
   EXPECT_NE(std::string::npos, run.out.find("does not fit at 4 places")) << run.out;
   EXPECT_EQ(std::string::npos, run.out.find("swordfish")) << run.out;
+  const ToolRun quoted =
+      checked({}, "<item xsi:type='bus:hierarchicalParmValueItem'><subNodes xsi:nil=\"'swordfish'\"/></item>");
+  EXPECT_EQ(kStatusUnfit, quoted.status);
+  EXPECT_EQ(std::string::npos, quoted.out.find("swordfish")) << quoted.out;
   const ToolRun control = checked({}, "<packages><x\xE2\x80\xAE/></packages>");
   EXPECT_EQ(std::string::npos, control.out.find("\xE2\x80\xAE")) << control.out;
 }
