@@ -13,15 +13,12 @@ ask() { # KIND [FILE]
 }
 
 tell() {
-  local fault messages
-  if fault=$(dxmd decode dataSourceFault "$reply" 2>/dev/null); then
-    echo "$fault"
-    return
-  fi
-  messages=$(dxmd decode validateReply "$reply")
-  case $messages in
-    *'"severity": "fatal"'* | *'"severity": "error"'*) echo "$messages" ;;
-    *) dxmd decode response "$reply" --format table ;;
+  local status=0 told
+  told=$(dxmd decode "$reply" 2>/dev/null) || status=$?
+  case $status in
+    0) dxmd decode response "$reply" --format table ;;
+    6) echo "$told" ;; # a fault, or a reply that reports errors
+    *) return "$status" ;;
   esac
 }
 
