@@ -9,8 +9,8 @@
 #include <dxmd/modelactions/DXActionHelperObjectAccess.h>
 #include <dxmd/modelactions/DXActionHelperRetargetObjectReferences.h>
 #include <dxmd/queryframework/QFExecuteCommandHelper.h>
-#include "Growth.h"
 
+#include "Growth.h"
 #include "InstructionCount.h"
 #include "Messages.h"
 #include "TestSupport.h"
@@ -106,8 +106,11 @@ std::vector<CostCase> casesOf(const std::vector<Message>& messages) {
       if (message.read == nullptr) continue;
       const std::string name = std::string(message.name) + "_" + growth.name;
       const auto prepare = [&message, &growth](std::size_t size) {
-        const auto accepts = [&](TRNIDOM_Element element) { return reads(message, element); };
-        return [&message, all = grown(message.make(), growth, size, accepts)] {
+        static std::map<std::string, TRNIDOM_Element> marks;
+        TRNIDOM_Element& example = marks[message.name];
+        if (example.isNull())
+          example = marked(message.make(), [&](TRNIDOM_Element element) { return reads(message, element); });
+        return [&message, all = grown(example, growth, size)] {
           for (const TRNIDOM_Element& each : all) reads(message, each);
         };
       };

@@ -127,15 +127,18 @@ const std::vector<Growth>& allGrowths() {
   return all;
 }
 
-std::vector<TRNIDOM_Element> grown(const TRNIDOM_Element& example, const Growth& growth, std::size_t size,
-                                   const std::function<bool(TRNIDOM_Element)>& accepts) {
-  const TRNIDOM_Element marked = copyOf(example);
-  for (const TRNIDOM_Element& element : elementsOf(marked))
+TRNIDOM_Element marked(const TRNIDOM_Element& example, const std::function<bool(TRNIDOM_Element)>& accepts) {
+  TRNIDOM_Element copy = copyOf(example);
+  for (const TRNIDOM_Element& element : elementsOf(copy))
     for (TRNIDOM_Node text : textsOf(element)) {
       const I18NString before = text.getNodeValue();
       text.setNodeValue(kFree + before);
-      if (!accepts(marked)) text.setNodeValue(before);
+      if (!accepts(copy)) text.setNodeValue(before);
     }
+  return copy;
+}
+
+std::vector<TRNIDOM_Element> grown(const TRNIDOM_Element& marked, const Growth& growth, std::size_t size) {
   std::vector<TRNIDOM_Element> all;
   std::set<I18NString> names;
   const std::size_t places = elementsOf(marked).size();

@@ -28,10 +28,12 @@ struct Growth {
 /// attributes and elements; long texts, and texts of many pieces.
 const std::vector<Growth>& allGrowths();
 
-/// The example, grown by the shape in one place after the other: at the first element of each name.
-/// @param accepts  whether a document is read. Texts that may be changed are those that a shape changes.
-std::vector<TRNIDOM_Element> grown(const TRNIDOM_Element& example, const Growth& growth, std::size_t size,
-                                   const std::function<bool(TRNIDOM_Element)>& accepts);
+/// A copy of the example in which texts are marked that may be any: those that shapes change.
+/// @param accepts  whether a document is read.
+TRNIDOM_Element marked(const TRNIDOM_Element& example, const std::function<bool(TRNIDOM_Element)>& accepts);
+
+/// The marked example, grown by the shape in one place after the other: at the first element of each name.
+std::vector<TRNIDOM_Element> grown(const TRNIDOM_Element& marked, const Growth& growth, std::size_t size);
 
 }  // namespace dxmd_test
 
