@@ -34,6 +34,8 @@ def main(schemas, dxmd, folder):
             written[names[case["kind"].lower()]].add(document)
     wrong = 0
     for kind, documents in written.items():
+        if not documents:  # the test that encodes them was not asked for
+            continue
         for refused in refused_by_xmllint(schemas, kind, documents), refused_by_dxmd(dxmd, kind, documents):
             for document, said in refused.items():
                 print(f"{kind}: {said}: {document}")

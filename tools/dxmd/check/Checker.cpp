@@ -102,6 +102,7 @@ class Checker::Document {
   /// @param misfits  in the order of their elements, which are counted from the message.
   std::vector<Finding> findings(const std::vector<Misfit>& misfits) const {
     std::vector<std::size_t> elements;
+    elements.reserve(misfits.size());
     for (const Misfit& misfit : misfits) elements.push_back(m_number + misfit.element);
     const std::vector<Tags::Place> places = m_tags.placesOf(elements);
     std::vector<Finding> findings;
