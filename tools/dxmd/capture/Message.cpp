@@ -107,7 +107,7 @@ void dropIndentation(const TRNIDOM_Element& root, bool comments) {
 TRNIDOM_Element withoutPrefix(const TRNIDOM_Element& element) {
   const std::string prefix = prefixOf(element.getNodeName().toUtf8());
   if (prefix.empty()) return element;
-  const TRNIDOM_Element root = shortened(element, prefix);
+  TRNIDOM_Element root = shortened(element, prefix);
   // From the top down: to append what has no children yet takes no look at all that is above.
   TRNIDOM_Node parent = root;
   walk(
@@ -127,7 +127,7 @@ TRNIDOM_Element withoutPrefix(const TRNIDOM_Element& element) {
 
 TRNIDOM_Element messageIn(const TRNIDOM_Document& document,
                           const std::function<bool(const std::string& name)>& isMessage) {
-  const TRNIDOM_Element message = withoutPrefix(unwrapped(document.getDocumentElement(), isMessage));
+  TRNIDOM_Element message = withoutPrefix(unwrapped(document.getDocumentElement(), isMessage));
   dropIndentation(message, true);
   return message;
 }

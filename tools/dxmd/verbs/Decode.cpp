@@ -83,7 +83,7 @@ std::string prefixedName(std::string text, const std::string& localName) {
   for (std::size_t at = text.find('<'); at != std::string::npos; at = text.find('<', at + 1)) {
     const std::size_t end = text.find_first_of(" \t\r\n/>", at + 1);
     if (end == std::string::npos) break;
-    const std::string name = text.substr(at + 1, std::min<std::size_t>(end - at - 1, 256));
+    std::string name = text.substr(at + 1, std::min<std::size_t>(end - at - 1, 256));
     if (name == localName ||
         (name.size() > localName.size() + 1 && name[0] != '!' &&
          name.compare(name.size() - localName.size() - 1, std::string::npos, ":" + localName) == 0))
