@@ -157,6 +157,10 @@ std::string printed(Verb verb, const Kind& kind, const Settings& settings, const
   }
 }
 
+void decodeAs(const Kind& kind, const Settings& settings, std::istream& in, Output& out) {
+  decode(kind, settings, inputOf(settings.file, in, settings.onRead), out);
+}
+
 void formatAny(const Kind&, const Settings& settings, std::istream& in, Output& out) {
   format(settings, in, out);
 }
@@ -208,8 +212,7 @@ void decodePlanted(Choices& choose) {
       settings.kindOptions =
           KindOptions(std::map<std::string, std::string>{{option.name, option.choices[choose(option.choices.size())]}});
   const std::string xml = TRNIDOM_Writer::toString(document);
-  for (const auto verb : {static_cast<Verb>(decode), formatAny, checkOne})
-    requireHidden(printed(verb, kind, settings, xml), xml);
+  for (const auto verb : {decodeAs, formatAny, checkOne}) requireHidden(printed(verb, kind, settings, xml), xml);
 }
 
 /// In JSON that is refused: errors show no secret.

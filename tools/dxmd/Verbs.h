@@ -9,6 +9,7 @@
 #include <vector>
 
 #include <tools/dxmd/Files.h>
+#include <tools/dxmd/Input.h>
 #include <tools/dxmd/Kind.h>
 #include <tools/dxmd/ToolError.h>
 
@@ -35,7 +36,7 @@ void encode(const Kind& kind, const Settings& settings, std::istream& in, Output
 std::string encode(const Kind& kind, const Settings& settings, std::istream& in);
 
 /// XML read, JSON written, or what the kind gives in its stead.
-void decode(const Kind& kind, const Settings& settings, std::istream& in, Output& out);
+void decode(const Kind& kind, const Settings& settings, const Input& input, Output& out);
 std::string decode(const Kind& kind, const Settings& settings, std::istream& in);
 
 /// The same of several files, one after the other. What one fails for is told, and the next is decoded.

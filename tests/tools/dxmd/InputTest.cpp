@@ -225,6 +225,16 @@ TEST(Format, IndentsAndHidesSecretsInAnyXml) {
   EXPECT_EQ(0, run({"format"}, deep).status);
 }
 
+TEST(Diff, NamesTheFileThatFails) {
+  const TempFolder folder;
+  const std::string other = folder.add("other.xml", "<other/>");
+  for (const std::vector<std::string>& kind : {std::vector<std::string>{}, {"--kind", "response"}}) {
+    std::vector<std::string> args{"diff", folder.add("reply.xml", example("response")), other};
+    args.insert(args.end(), kind.begin(), kind.end());
+    EXPECT_EQ(0u, run(args).err.find("dxmd: " + other + ": no "));
+  }
+}
+
 TEST(Diff, TellsWhatDiffersAsDiffDoes) {
   const TempFolder folder;
   const std::string left = folder.add("left.xml", example("response"));

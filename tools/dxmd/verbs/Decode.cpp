@@ -123,8 +123,7 @@ const Kind& largeKind() {
   return *std::find_if(allKinds().begin(), allKinds().end(), [](const Kind& kind) { return !!kind.decodePieces; });
 }
 
-void decodeOne(const Kind* asked, const Settings& settings, std::istream& in, Output& out) {
-  const Input raw = inputOf(settings.file, in, settings.onRead);
+void decodeOne(const Kind* asked, const Settings& settings, const Input& raw, Output& out) {
   XmlInput input(raw, settings.exact);
   refusalsNamed(input.name(), [&] {
     const Kind& large = asked != nullptr ? *asked : largeKind();
@@ -141,13 +140,13 @@ void decodeOne(const Kind* asked, const Settings& settings, std::istream& in, Ou
 
 }  // namespace
 
-void decode(const Kind& kind, const Settings& settings, std::istream& in, Output& out) {
-  decodeOne(&kind, settings, in, out);
+void decode(const Kind& kind, const Settings& settings, const Input& input, Output& out) {
+  decodeOne(&kind, settings, input, out);
 }
 
 std::string decode(const Kind& kind, const Settings& settings, std::istream& in) {
   StringOutput out;
-  decode(kind, settings, in, out);
+  decode(kind, settings, inputOf(settings.file, in, settings.onRead), out);
   return out.take();
 }
 
@@ -155,9 +154,7 @@ Status decodeAll(const Kind* kind, const Settings& settings, const std::vector<s
                  Output& out, const std::function<void(const std::string& message)>& tell) {
   Status worst = kStatusOk;
   for (const std::string& file : files) {
-    Settings ofFile = settings;
-    ofFile.file = file;
-    const Outcome outcome = outcomeOf([&] { decodeOne(kind, ofFile, in, out); });
+    const Outcome outcome = outcomeOf([&] { decodeOne(kind, settings, inputOf(file, in, settings.onRead), out); });
     // What the command line or the output is to blame for will be no better with the next file.
     const bool isOfFile = outcome.message.compare(0, file.size(), file) == 0 || file == "-";
     if (outcome.status == kStatusUsage || (outcome.status == kStatusFile && !isOfFile))

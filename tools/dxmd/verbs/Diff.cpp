@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <istream>
-#include <sstream>
 #include <string>
 #include <utility>
 
@@ -37,10 +36,10 @@ struct Value {
 };
 
 /// The message decoded as that kind. Errors that it reports are no reason not to compare it.
-std::string decoded(const Kind& kind, const Settings& settings, std::istream& in) {
+std::string decoded(const Kind& kind, const Settings& settings, const Input& input) {
   StringOutput out;
   try {
-    decode(kind, settings, in, out);
+    decode(kind, settings, input, out);
   } catch (const ToolError& error) {
     if (error.status() != kStatusReported) throw;
     std::string text = out.take();
@@ -53,20 +52,19 @@ std::string decoded(const Kind& kind, const Settings& settings, std::istream& in
 Side sideOf(const Kind* asked, const Settings& settings, const std::string& file, std::istream& in) {
   const Input input = inputOf(file, in, settings.onRead);
   const std::string bytes = readSource(input.source);
-  std::size_t given = 0;
-  const Source again = [&](char* buffer, std::size_t size) {
-    const std::size_t count = bytes.copy(buffer, size, given);
-    given += count;
-    return count;
+  const auto again = [&] {
+    return Input{input.name, [&bytes, given = std::size_t{0}](char* buffer, std::size_t size) mutable {
+                   const std::size_t count = bytes.copy(buffer, size, given);
+                   given += count;
+                   return count;
+                 }};
   };
-  const Kind& kind = asked != nullptr ? *asked : kindIn({input.name, again}, settings.exact);
+  const Kind& kind = asked != nullptr ? *asked : kindIn(again(), settings.exact);
   // Read twice, since a large message is printed as it is read.
   const auto decodedWith = [&](bool showSecrets) {
     Settings ofSide = settings;
-    ofSide.file = "-";
     ofSide.showSecrets = showSecrets;
-    std::istringstream stream(bytes);
-    return parseJson(decoded(kind, ofSide, stream), input.name);
+    return parseJson(decoded(kind, ofSide, again()), input.name);
   };
   return {kind.name, decodedWith(true), decodedWith(false)};
 }
