@@ -9,7 +9,7 @@
 #include <tools/dxmd/ToolError.h>
 #include <tools/dxmd/capture/Message.h>
 #include <tools/dxmd/json/Quote.h>
-#include <tools/dxmd/text/Suggest.h>
+#include <tools/dxmd/text/Words.h>
 #include <tools/dxmd/xml/Elements.h>
 
 namespace dxmd_tool {
@@ -22,11 +22,6 @@ std::string nameOf(const TRNIDOM_Element& element) {
 
 bool contains(const std::vector<std::string>& names, const std::string& name) {
   return std::find(names.begin(), names.end(), name) != names.end();
-}
-
-bool contains(const std::vector<const Kind*>& kinds, const Kind& kind) {
-  return std::find_if(kinds.begin(), kinds.end(), [&](const Kind* one) { return one->name == kind.name; }) !=
-         kinds.end();
 }
 
 bool holdsAny(const TRNIDOM_Element& root, const std::vector<std::string>& names) {
@@ -58,10 +53,21 @@ bool isFault(const TRNIDOM_Element& root) {
   return lowerCase(localName(nameOf(root))) == "fault";
 }
 
-std::string joined(const std::vector<std::string>& names) {
-  std::string all;
-  for (const std::string& name : names) all += (all.empty() ? "" : ", ") + name;
-  return all;
+std::vector<std::string> namesOf(const std::vector<const Kind*>& kinds) {
+  std::vector<std::string> names;
+  for (const Kind* kind : kinds) names.push_back(kind->name);
+  return names;
+}
+
+/// Whether the document is of the kind.
+bool fits(const Kind& kind, const TRNIDOM_Element& root) {
+  const std::string name = nameOf(root);
+  if (isHtml(root)) return false;
+  if (!contains(kind.roots, name))
+    return kindsOfRoot(name) == 0 && holdsAny(root, kind.orHolding) &&
+           (kind.marks.empty() || holdsAny(root, kind.marks));
+  if (!kind.wrapped.empty()) return wraps(root, kind.wrapped);
+  return kindsOfRoot(name) == 1 || firstChild(root).isNull() || holdsAny(root, marksOf(kind));
 }
 
 /// A text on one line, of limited length, without secrets.
@@ -111,9 +117,7 @@ std::string whyNot(const Kind& kind, const TRNIDOM_Element& root) {
 std::string whatItIs(const TRNIDOM_Element& root, const std::vector<const Kind*>& kinds) {
   if (isHtml(root)) return "it is a page of HTML: " + inQuotes(brief(textsBelow(root)));
   if (kinds.empty()) return isFault(root) ? "it is a fault" : "";
-  std::string names;
-  for (const Kind* kind : kinds) names += (names.empty() ? "" : " or ") + kind->name;
-  return "it is " + names + "; try dxmd decode " + kinds.front()->name;
+  return "it is " + joined(namesOf(kinds), " or ") + "; try dxmd decode " + kinds.front()->name;
 }
 
 }  // namespace
@@ -124,19 +128,8 @@ bool isMessageName(const std::string& name) {
 
 std::vector<const Kind*> kindsOf(const TRNIDOM_Element& root) {
   std::vector<const Kind*> found;
-  if (isHtml(root)) return found;
-  const std::string name = nameOf(root);
-  const std::ptrdiff_t ofRoot = kindsOfRoot(name);
-  const bool isEmpty = firstChild(root).isNull();
-  for (const Kind& kind : allKinds()) {
-    const std::vector<std::string>& marks = marksOf(kind);
-    bool fits = false;
-    if (ofRoot == 0)
-      fits = holdsAny(root, kind.orHolding) && (kind.marks.empty() || holdsAny(root, kind.marks));
-    else if (contains(kind.roots, name))
-      fits = !kind.wrapped.empty() ? wraps(root, kind.wrapped) : ofRoot == 1 || isEmpty || holdsAny(root, marks);
-    if (fits) found.push_back(&kind);
-  }
+  for (const Kind& kind : allKinds())
+    if (fits(kind, root)) found.push_back(&kind);
   return found;
 }
 
@@ -147,10 +140,9 @@ const Kind& kindOf(const TRNIDOM_Element& root, const std::string& name) {
     if (reports != kinds.begin()) kinds.erase(reports, kinds.end());
   }
   if (kinds.size() == 1) return *kinds.front();
-  std::string names;
-  for (const Kind* kind : kinds) names += (names.empty() ? "" : ", ") + kind->name;
   if (!kinds.empty())
-    throw ToolError(kStatusUnfit, name + ": fits several kinds: " + names + "; say which: dxmd decode KIND FILE");
+    throw ToolError(kStatusUnfit,
+                    name + ": fits several kinds: " + joined(namesOf(kinds)) + "; say which: dxmd decode KIND FILE");
   if (isFault(root)) throw ToolError(kStatusReported, name + ": a fault: " + brief(textsBelow(root)));
   if (const std::string is = whatItIs(root, kinds); !is.empty())
     throw ToolError(kStatusUnfit, name + ": no kind of message: " + is);
@@ -170,8 +162,8 @@ const Kind& kindIn(const Input& input, bool exact) {
 void checkKind(const Kind& kind, const TRNIDOM_Element& root, const std::string& name) {
   // Of its roots no other kind is.
   if (contains(kind.roots, nameOf(root)) && kind.wrapped.empty() && marksOf(kind).empty()) return;
+  if (fits(kind, root)) return;
   const std::vector<const Kind*> kinds = kindsOf(root);
-  if (contains(kinds, kind)) return;
   const std::string errors = kinds.empty() && isFault(root) ? brief(textsBelow(root)) : errorsReportedBy(root);
   std::string message = name + ": no " + kind.name + ": " + whyNot(kind, root);
   if (const std::string is = whatItIs(root, kinds); !is.empty()) message += "; " + is;
@@ -181,8 +173,8 @@ void checkKind(const Kind& kind, const TRNIDOM_Element& root, const std::string&
 
 std::string errorsReportedBy(const TRNIDOM_Element& root) {
   std::string all;
-  for (const Kind* kind : kindsOf(root))
-    if (kind->errors) all += (all.empty() ? "" : "; ") + kind->errors(root);
+  for (const Kind& kind : allKinds())
+    if (kind.errors && fits(kind, root)) all += (all.empty() ? "" : "; ") + kind.errors(root);
   return brief(all);
 }
 

@@ -13,7 +13,7 @@
 #include <tools/dxmd/json/JsonWriter.h>
 #include <tools/dxmd/json/Quote.h>
 #include <tools/dxmd/json/SecretNames.h>
-#include <tools/dxmd/text/Suggest.h>
+#include <tools/dxmd/text/Words.h>
 #include <tools/dxmd/xml/Elements.h>
 
 namespace dxmd_tool {

@@ -3,6 +3,7 @@
 #include <tools/dxmd/ToolError.h>
 #include <tools/dxmd/json/Quote.h>
 #include <tools/dxmd/text/Suggest.h>
+#include <tools/dxmd/text/Words.h>
 
 namespace dxmd_tool {
 

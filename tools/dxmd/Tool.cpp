@@ -25,6 +25,7 @@
 #include <tools/dxmd/json/Quote.h>
 #include <tools/dxmd/json/SecretNames.h>
 #include <tools/dxmd/text/Suggest.h>
+#include <tools/dxmd/text/Words.h>
 
 namespace dxmd_tool {
 
@@ -349,7 +350,7 @@ class CommandLine {
     const bool hasVerb = !m_app.get_subcommands().empty();
     if (!extras.empty() && (hasVerb || isOption(extras[0]))) failUnexpected(extras[0]);
     if (!extras.empty()) failUnknownVerb(extras[0]);
-    if (!hasVerb) fail("a verb is needed: " + listed(verbs(), "or"));
+    if (!hasVerb) fail("a verb is needed: " + joined(verbs(), ", ", " or "));
   }
 
   std::vector<std::string> verbs() const {
@@ -358,17 +359,10 @@ class CommandLine {
     return names;
   }
 
-  /// The names as a sentence has them: "a, b or c".
-  static std::string listed(const std::vector<std::string>& names, const std::string& last) {
-    std::string text;
-    for (std::size_t i = 0; i < names.size(); ++i)
-      text += (i == 0 ? "" : i + 1 < names.size() ? ", " : " " + last + " ") + names[i];
-    return text;
-  }
-
   [[noreturn]] void failUnknownVerb(const std::string& name) const {
-    if (isKind(name)) fail(inQuotes(name) + " is a kind of message, and a verb is needed: " + listed(verbs(), "or"));
-    fail(inQuotes(name) + " is no verb; the verbs are " + listed(verbs(), "and") + didYouMean(name, verbs()));
+    if (isKind(name))
+      fail(inQuotes(name) + " is a kind of message, and a verb is needed: " + joined(verbs(), ", ", " or "));
+    fail(inQuotes(name) + " is no verb; the verbs are " + joined(verbs(), ", ", " and ") + didYouMean(name, verbs()));
   }
 
   /// The kind that the verb was given.

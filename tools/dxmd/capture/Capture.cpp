@@ -12,7 +12,7 @@
 #include <zlib.h>
 
 #include <tools/dxmd/ToolError.h>
-#include <tools/dxmd/text/Suggest.h>
+#include <tools/dxmd/text/Words.h>
 
 namespace dxmd_tool {
 
@@ -22,10 +22,6 @@ constexpr std::string_view kSpaces(" \t\r\n");
 
 /// The most bytes that headers of HTTP may have.
 constexpr std::size_t kMostHeaders = std::size_t{1} << 18;
-
-bool startsWith(std::string_view text, std::string_view start) {
-  return text.substr(0, start.size()) == start;
-}
 
 /// A source whose next bytes can be looked at before they are taken.
 class Lookahead {

@@ -5,7 +5,7 @@
 
 #include <trnidom/TRNIDOM_NamedNodeMap.h>
 
-#include <tools/dxmd/text/Suggest.h>
+#include <tools/dxmd/text/Words.h>
 #include <tools/dxmd/xml/Elements.h>
 
 namespace dxmd_tool {
@@ -47,10 +47,6 @@ TRNIDOM_Node nextAfter(TRNIDOM_Node node, const TRNIDOM_Node& root) {
 /// The prefix of a name with its colon; empty when there is none.
 std::string prefixOf(const std::string& name) {
   return name.substr(0, name.find(':') + 1);
-}
-
-bool startsWith(const std::string& text, const std::string& start) {
-  return text.compare(0, start.size(), start) == 0;
 }
 
 /// A copy of the element alone, without the prefix.

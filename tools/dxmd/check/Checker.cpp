@@ -16,15 +16,12 @@
 #include <tools/dxmd/capture/Message.h>
 #include <tools/dxmd/check/Tags.h>
 #include <tools/dxmd/json/Quote.h>
+#include <tools/dxmd/text/Words.h>
 #include <tools/dxmd/xml/Elements.h>
 
 namespace dxmd_tool {
 
 namespace {
-
-bool startsWith(const std::string& text, const std::string& start) {
-  return text.compare(0, start.size(), start) == 0;
-}
 
 std::string decodedFrom(const std::string& bytes, const char* encoding) {
   return I18NString(bytes.data(), encoding, static_cast<long>(bytes.size())).toUtf8();

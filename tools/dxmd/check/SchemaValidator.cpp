@@ -26,6 +26,7 @@
 #include <tools/dxmd/Files.h>
 #include <tools/dxmd/ToolError.h>
 #include <tools/dxmd/json/Quote.h>
+#include <tools/dxmd/text/Words.h>
 
 namespace dxmd_tool {
 
@@ -141,21 +142,13 @@ class SchemaFiles final : public xml::XMLEntityResolver {
   bool m_isClosed = false;
 };
 
-/// "optional", "required" or "prohibited".
-std::string oneOf(const std::vector<std::string>& texts) {
-  std::string all;
-  for (std::size_t i = 0; i < texts.size(); ++i)
-    all += (i == 0 ? "" : i + 1 == texts.size() ? " or " : ", ") + ('"' + texts[i] + '"');
-  return all;
-}
-
 /// What a value of that type is, where it is not what it must be.
 std::string refusalOf(const xml::DatatypeValidator* type, unsigned code) {
   if (code == xml::XMLExcepts::VALUE_NotIn_Enumeration && type != nullptr && type->getEnumString() != nullptr) {
     std::vector<std::string> texts;
     const xml::RefArrayVectorOf<XMLCh>& allowed = *type->getEnumString();
-    for (XMLSize_t i = 0; i < allowed.size(); ++i) texts.push_back(toUtf8(allowed.elementAt(i)));
-    return "must be " + oneOf(texts);
+    for (XMLSize_t i = 0; i < allowed.size(); ++i) texts.push_back('"' + toUtf8(allowed.elementAt(i)) + '"');
+    return "must be " + joined(texts, ", ", " or ");
   }
   if (code == xml::XMLExcepts::VALUE_LT_minLen) return "must not be empty";
   return "has a value that does not fit its type";

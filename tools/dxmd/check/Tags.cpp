@@ -2,13 +2,11 @@
 
 #include <algorithm>
 
+#include <tools/dxmd/text/Words.h>
+
 namespace dxmd_tool {
 
 namespace {
-
-bool startsWith(std::string_view text, std::string_view start) {
-  return text.substr(0, start.size()) == start;
-}
 
 /// Behind that end, at `at` or further on.
 std::size_t behind(std::string_view text, std::string_view end, std::size_t at) {

@@ -11,6 +11,7 @@
 #include <tools/dxmd/json/JsonError.h>
 #include <tools/dxmd/text/Escape.h>
 #include <tools/dxmd/text/Suggest.h>
+#include <tools/dxmd/text/Words.h>
 
 namespace dxmd_tool {
 

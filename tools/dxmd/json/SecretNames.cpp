@@ -4,7 +4,7 @@
 #include <iterator>
 #include <vector>
 
-#include <tools/dxmd/text/Suggest.h>
+#include <tools/dxmd/text/Words.h>
 
 namespace dxmd_tool {
 

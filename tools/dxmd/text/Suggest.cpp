@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <numeric>
 
+#include <tools/dxmd/text/Words.h>
+
 namespace dxmd_tool {
 
 namespace {
@@ -42,13 +44,6 @@ std::string didYouMean(std::string_view word, const std::vector<std::string>& ca
     }
   }
   return best != nullptr ? "; did you mean \"" + *best + "\"?" : "";
-}
-
-std::string lowerCase(std::string_view text) {
-  std::string lower(text);
-  for (char& c : lower)
-    if ('A' <= c && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  return lower;
 }
 
 }  // namespace dxmd_tool

@@ -10,9 +10,6 @@ namespace dxmd_tool {
 /// `; did you mean "name"?` with the candidate that the word is likely to stand for; empty when there is none.
 std::string didYouMean(std::string_view word, const std::vector<std::string>& candidates);
 
-/// ASCII letters as small ones.
-std::string lowerCase(std::string_view text);
-
 }  // namespace dxmd_tool
 
 #endif
