@@ -55,6 +55,7 @@ bool isFault(const TRNIDOM_Element& root) {
 
 std::vector<std::string> namesOf(const std::vector<const Kind*>& kinds) {
   std::vector<std::string> names;
+  names.reserve(kinds.size());
   for (const Kind* kind : kinds) names.push_back(kind->name);
   return names;
 }
