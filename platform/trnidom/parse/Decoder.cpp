@@ -60,11 +60,24 @@ constexpr Mark kMarks[] = {{"\0\0\xFE\xFF"sv, "UTF-32BE"},
                            {"\xEF\xBB\xBF"sv, nullptr},
                            {"\xFE\xFF"sv, "UTF-16BE"},
                            {"\xFF\xFE"sv, "UTF-16LE"}};
-// The beginning of an XML declaration, without which a document of wide characters has to have a byte order mark.
+// "<?xml", the beginning of an XML declaration if white space follows. Without one a document of wide characters has to
+// have a byte order mark.
 constexpr Mark kDeclarations[] = {{"\0\0\0<\0\0\0?\0\0\0x\0\0\0m\0\0\0l"sv, "UTF-32BE"},
                                   {"<\0\0\0?\0\0\0x\0\0\0m\0\0\0l\0\0\0"sv, "UTF-32LE"},
                                   {"\0<\0?\0x\0m\0l"sv, "UTF-16BE"},
                                   {"<\0?\0x\0m\0l\0"sv, "UTF-16LE"}};
+
+/// Whether a document begins with the XML declaration of one of kDeclarations.
+bool declares(std::string_view first, const Mark& mark) noexcept {
+  constexpr std::string_view kWhiteSpace = " \t\r\n";
+  const std::size_t width = mark.bytes.size() / std::string_view("<?xml").size();
+  if (first.substr(0, mark.bytes.size()) != mark.bytes) return false;
+  const std::string_view next = first.substr(mark.bytes.size(), width);
+  const std::size_t significant = next.find_first_not_of('\0');
+  return next.size() == width && significant == mark.bytes.find('<') &&
+         kWhiteSpace.find(next[significant]) != std::string_view::npos &&
+         next.find_first_not_of('\0', significant + 1) == std::string_view::npos;
+}
 
 /// Whether a document begins with "<?xml" and white space in EBCDIC, whose code pages agree on these.
 bool beginsInEbcdic(std::string_view first) noexcept {
@@ -91,16 +104,17 @@ bool isSameWidth(UConverterType told, UConverterType declared) noexcept {
 }  // namespace
 
 Decoder::Decoder(ByteInput& input) : m_input(input) {
-  constexpr std::size_t kTelling = 20;
+  constexpr std::size_t kTelling = 24;
   const std::string_view first = input.read(kTelling);
   const auto begins = [first](const Mark& mark) { return first.substr(0, mark.bytes.size()) == mark.bytes; };
+  const auto isDeclared = [first](const Mark& mark) { return declares(first, mark); };
   std::size_t markLength = 0;
   const char* encoding = nullptr;
   if (const auto* mark = std::find_if(std::begin(kMarks), std::end(kMarks), begins); mark != std::end(kMarks)) {
     m_kind = Kind::kMarked;
     markLength = mark->bytes.size();
     encoding = mark->encoding;
-  } else if (mark = std::find_if(std::begin(kDeclarations), std::end(kDeclarations), begins);
+  } else if (mark = std::find_if(std::begin(kDeclarations), std::end(kDeclarations), isDeclared);
              mark != std::end(kDeclarations)) {
     m_kind = Kind::kWide;
     encoding = mark->encoding;

@@ -107,7 +107,9 @@ const KnownDifference kKnownDifferences[] = {
      isMisspelt},
     {"Xerces-C takes no XML declaration for one that has a line break behind <?xml", false, "",
      [](const std::string& bytes, const std::string&) {
-       return bytes.substr(0, 5) == "<?xml" && bytes.substr(5, 1).find_first_of("\t\r\n") == 0;
+       std::string first = bytes.substr(0, 24);
+       first.erase(std::remove(first.begin(), first.end(), '\0'), first.end());
+       return first.substr(0, 5) == "<?xml" && first.substr(5, 1).find_first_of("\t\r\n") == 0;
      }},
 };
 
