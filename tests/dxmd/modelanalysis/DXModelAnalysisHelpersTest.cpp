@@ -46,6 +46,16 @@ TEST(DXAnalyzeRequestTaskHelper, NamesAreExactAndOnlySomeAreSupported) {
   EXPECT_EQ((std::vector<int>{0, 1, 2, 3, 4, 5, 7, 8, 9}), std::vector<int>(checks.begin(), checks.end()));
 }
 
+TEST(DXAnalyzeRequestTaskHelper, ReadsChecksAndObjectsButNoName) {
+  Task task(Task::kTaskReserved1);
+  TRNIDOM_Element element =
+      parsed(R"(<task name="doSpecifiedChecks"><check name="cachingConflict"/><object id="a"/></task>)");
+  task.doTake(element);
+  EXPECT_EQ(Task::kTaskReserved1, task.GetTask());
+  EXPECT_EQ(std::vector<Task::ECheck>{Task::kCheckCachingConflict}, task.GetChecks());
+  EXPECT_EQ(std::vector<I18NString>{"a"}, task.GetObjects());
+}
+
 TEST(DXModelAnalysisRequestHelper, ReadsChecksAndObjectsOfAnyDepth) {
   Request request;
   request.AddTask(Task::kTaskReserved1);

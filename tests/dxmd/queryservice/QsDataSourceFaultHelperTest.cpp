@@ -172,6 +172,11 @@ TEST(QsDataSourceFaultHelper, RecordsAreVectorsThatTheirOwnerDeletes) {
   other = std::move(info);
   const DataSourceInfo last(std::move(other));
   EXPECT_EQ("own", last.connections.front()->signons.back()->name);
+
+  ConnectionInfo connection;
+  connection = std::move(*last.connections.front());
+  EXPECT_EQ("c", connection.name);
+  EXPECT_EQ("own", connection.signons.back()->name);
 }
 
 TEST(QsDataSourceFaultHelper, DataSourcesNestedAHundredThousandDeepAreReadInOneWalk) {

@@ -101,6 +101,17 @@ TEST(DXUpdateObjectResponseHelper, ReadsWhatItWrote) {
   EXPECT_EQ("\n--- w", rendered(*task));
 }
 
+TEST(DXUpdateResponseTaskHelper, IsReadByItselfToo) {
+  Task task(RequestTask::kTaskAddObject, Task::kStatusSuccess);
+  TRNIDOM_Element element = parsed(
+      R"(<task name="x"><param name="object" value="o"/><y><feedback><entry class="info">i</entry></feedback></y></task>)");
+  task.Take(element);
+  EXPECT_EQ("\n--- i", rendered(task));
+  std::vector<I18NString> objects;
+  task.GetParameter(Task::kParamObject, objects);
+  EXPECT_EQ(std::vector<I18NString>{"o"}, objects);
+}
+
 TEST(DXUpdateObjectResponseHelper, FindsTheFirstTaskOfAKind) {
   const auto response = taken<DXUpdateObjectResponseHelper>(
       R"(<r><task name="addObject" status="Success"/><x><task name="removeObject" status="success"/>)"

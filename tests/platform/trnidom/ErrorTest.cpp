@@ -1,4 +1,6 @@
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "TestSupport.h"
 
@@ -6,6 +8,7 @@
 #include <trnidom/TRNIDOM_DOMImplementation.h>
 #include <trnidom/TRNIDOM_DocumentType.h>
 #include <trnidom/TRNIDOM_NamedNodeMap.h>
+#include <trnidom/TRNIDOM_ParseError.h>
 
 using namespace dxmd_test;
 
@@ -118,6 +121,8 @@ TEST_F(Errors, DocumentNamesMustGoWithTheirNamespace) {
   };
   EXPECT_EQ("<p:a/>", create("urn:x", "p:a"));
   for (const char* name : {"1", "a b", "<"}) refused(Error::INVALID_CHARACTER_ERR, document, [&] { create("", name); });
+  refused(Error::INVALID_CHARACTER_ERR, document,
+          [&] { document.createElement(I18NString::fromUtf16(u"a\xD800", 2)); });
   for (const char* name : {"p:a", "xml:a", ":a", "a:", "a:b:c"})
     refused(Error::NAMESPACE_ERR, document, [&] { create("", name); });
   refused(Error::NAMESPACE_ERR, document, [&] { create("urn:x", "xml:a"); });
@@ -132,6 +137,27 @@ TEST_F(Errors, SayWhatWasTriedOnWhichNodeButNoValue) {
             refused(Error::INVALID_CHARACTER_ERR, document, [&] { a.setAttribute("b c", "secret"); }));
   EXPECT_EQ("createElement on a null node: there is no document (INVALID_STATE_ERR)",
             refused(Error::INVALID_STATE_ERR, document, [&] { TRNIDOM_Document().createElement("a"); }));
+}
+
+TEST_F(Errors, AreKeptByCopies) {
+  std::vector<Error> kept;
+  for (const char* name : {"1", "2"}) {
+    try {
+      document.createElement(name);
+    } catch (const Error& error) {
+      kept.push_back(error);
+    }
+  }
+  ASSERT_EQ(2U, kept.size());
+  kept.front() = kept.back();
+  EXPECT_STREQ("createElement on the document: \"2\" is no XML name (INVALID_CHARACTER_ERR)", kept.front().what());
+
+  TRNIDOM_ParseError first(1, 2, "first");
+  const TRNIDOM_ParseError second(3, 4, "second");
+  const TRNIDOM_ParseError copy(second);
+  first = copy;
+  EXPECT_EQ(3U, first.getLine());
+  EXPECT_STREQ("3:4: second", first.what());
 }
 
 TEST_F(Errors, NameTheWholeNameOrItsBeginning) {

@@ -9,17 +9,23 @@ using namespace dxmd_test;
 
 namespace {
 
-/// The place of the error that parsing ends in, as "LINE:COLUMN".
-std::string errorPlace(const std::string& xml) {
+/// The error that parsing ends in, as "LINE:COLUMN: reason".
+std::string error(const std::string& xml) {
   try {
     TRNIDOM_Parser::parseString(xml);
   } catch (const TRNIDOM_ParseError& error) {
     EXPECT_FALSE(error.getReason().empty());
-    const std::string place = std::to_string(error.getLine()) + ":" + std::to_string(error.getColumn());
-    EXPECT_EQ(place + ": " + error.getReason(), error.what());
-    return place;
+    EXPECT_EQ(std::to_string(error.getLine()) + ":" + std::to_string(error.getColumn()) + ": " + error.getReason(),
+              error.what());
+    return error.what();
   }
   return "parsed";
+}
+
+/// Its place alone.
+std::string errorPlace(const std::string& xml) {
+  const std::string all = error(xml);
+  return all.substr(0, all.find(": "));
 }
 
 }  // namespace
@@ -168,6 +174,55 @@ TEST(Parser, ReadsUtf32WithAByteOrderMarkAlone) {
     const std::string mark = xml[0] == '<' ? "\xFF\xFE\0\0"s : "\0\0\xFE\xFF"s;
     EXPECT_EQ("<a/>", xmlOf(parsed(mark + xml)));
     EXPECT_NE("parsed", errorPlace(xml)) << xml;
+  }
+}
+
+TEST(Parser, TellsWideCharactersByTheXmlDeclaration) {
+  const auto wide = [](const std::string& xml, std::size_t zerosBefore, std::size_t zerosBehind) {
+    std::string bytes;
+    for (const char c : xml) bytes += std::string(zerosBefore, '\0') + c + std::string(zerosBehind, '\0');
+    return bytes;
+  };
+  const auto declared = [](const std::string& encoding) {
+    return "<?xml version='1.0' encoding='" + encoding + "'?><a>b</a>";
+  };
+  EXPECT_EQ("<a>b</a>", xmlOf(parsed(wide(declared("UTF-32"), 3, 0))));
+  EXPECT_EQ("<a>b</a>", xmlOf(parsed(wide(declared("UTF-32LE"), 0, 3))));
+  EXPECT_EQ("<a>b</a>", xmlOf(parsed(wide(declared("UTF-16"), 1, 0))));
+  EXPECT_EQ("<a>b</a>", xmlOf(parsed(wide(declared("UTF-16LE"), 0, 1))));
+  EXPECT_EQ("<a>b</a>", xmlOf(parsed(wide("<?xml\tversion='1.0'?><a>b</a>", 0, 1))));
+  for (const char* encoding : {"UTF-16BE", "UTF-32", "ISO-8859-1"})
+    EXPECT_EQ("1:1: the document is not in the encoding \"" + std::string(encoding) + "\"",
+              error(wide(declared(encoding), 0, 1)));
+  // No declaration, but an instruction.
+  EXPECT_NE("parsed", error(wide("<?xmlm ?><a>b</a>", 0, 1)));
+}
+
+TEST(Parser, ReadsEbcdicThatIsDeclared) {
+  const auto ebcdic = [](const std::string& xml) {
+    const std::string letters = "<>?='/ .-";
+    const std::string bytes = "\x4C\x6E\x6F\x7E\x7D\x61\x40\x4B\x60";
+    std::string all;
+    for (const char c : xml) {
+      if (const std::size_t at = letters.find(c); at != std::string::npos)
+        all += bytes[at];
+      else if (c >= '0' && c <= '9')
+        all += static_cast<char>(0xF0 + (c - '0'));
+      else
+        all += static_cast<char>(c < 'j' ? 0x81 + (c - 'a') : c < 's' ? 0x91 + (c - 'j') : 0xA2 + (c - 's'));
+    }
+    return all;
+  };
+  EXPECT_EQ("<a>b</a>", xmlOf(parsed(ebcdic("<?xml version='1.0' encoding='ibm-37'?><a>b</a>"))));
+  EXPECT_EQ("1:22: a document in EBCDIC has to declare its encoding", error(ebcdic("<?xml version='1.0'?><a/>")));
+}
+
+TEST(Parser, ReadsCharactersThatLieAcrossPieces) {
+  std::string text;
+  for (int i = 0; i < 100000; ++i) text += "\xE2\x82\xAC";
+  for (const std::string begin : {"", "x", "xx"}) {
+    const TRNIDOM_Element a = parsed("<a>" + begin + text + "</a>");
+    EXPECT_EQ(begin + text, a.getFirstChild().getNodeValue().toUtf8());
   }
 }
 

@@ -1,12 +1,15 @@
 #include <algorithm>
 #include <filesystem>
+#include <new>
 #include <sstream>
+#include <stdexcept>
 
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
 #include <tools/dxmd/Registry.h>
 #include <tools/dxmd/Tool.h>
+#include <tools/dxmd/json/Json.h>
 
 #include "RunTool.h"
 
@@ -145,6 +148,12 @@ TEST(CommandLine, JsonIsColouredOnATerminalThatHasColours) {
   terminal.hasColours = true;
   runTool({"decode", "response"}, in, out, err, terminal);
   EXPECT_EQ("{\n  \x1B[34m\"rows\"\x1B[0m: []\n}\n", out.str());
+
+  std::istringstream again(in.str());
+  out.str("");
+  terminal.hasColours = false;
+  runTool({"decode", "response"}, again, out, err, terminal);
+  EXPECT_EQ("{\n  \"rows\": []\n}\n", out.str());
 }
 
 TEST(CommandLine, ProgressIsToldOnATerminalAfterASecond) {
@@ -162,6 +171,14 @@ TEST(CommandLine, ProgressIsToldOnATerminalAfterASecond) {
   EXPECT_EQ("", told());
   now = 1.5;
   EXPECT_EQ("\r\x1B[Kdxmd: 0 MB read\r\x1B[K", told());
+
+  const TempFolder folder;
+  std::istringstream in;
+  std::ostringstream out;
+  std::ostringstream err;
+  const std::string file = folder.add("reply.xml", "<response/>");
+  runTool({"decode", "response", file, file}, in, out, err, terminal);
+  EXPECT_NE(std::string::npos, err.str().find("dxmd: 0 MB read, ")) << err.str();
 }
 
 TEST(CommandLine, FileOfSecretsIsItsOwnersAlone) {
@@ -257,4 +274,20 @@ TEST(CommandLine, FileThatCannotBeReadIsStatus3) {
   const TempFolder folder;
   const std::string none = folder.path("none.xml");
   expectFailure(kStatusFile, none + ": cannot be read: No such file or directory", run({"decode", "response", none}));
+}
+
+TEST(CommandLine, OneKindIsDescribedForPrograms) {
+  const Json kind = Json::parse(run({"kinds", "execute", "--json"}).out);
+  EXPECT_EQ("execute", kind["kind"]);
+  EXPECT_EQ("QFExecuteCommandHelper", kind["class"]);
+}
+
+TEST(CommandLine, EveryExceptionIsAStatusWithItsText) {
+  EXPECT_EQ(kStatusOk, outcomeOf([] {}).status);
+  const Outcome failed = outcomeOf([] { throw std::runtime_error("a\nb"); });
+  EXPECT_EQ(kStatusUnfit, failed.status);
+  EXPECT_EQ("a\\nb", failed.message);
+  const Outcome exhausted = outcomeOf([] { throw std::bad_alloc(); });
+  EXPECT_EQ(kStatusMemory, exhausted.status);
+  EXPECT_EQ("out of memory", exhausted.message);
 }

@@ -61,6 +61,8 @@ TEST(Files, FailuresNameFileAndReasonAndLeaveNothing) {
                   [&] { readFile(folder.path(".")); });
   expectToolError(kStatusFile, "/dev/full: cannot be written: No space left on device",
                   [&] { writeFile("/dev/full", "x"); });
+  expectToolError(kStatusFile, folder.path(".") + ": cannot be written: Is a directory",
+                  [&] { writeFile(folder.path("."), "x"); });
   EXPECT_TRUE(folder.names().empty());
 }
 

@@ -72,6 +72,18 @@ TEST(Check, KindMayBeNamed) {
   EXPECT_EQ(kStatusUsage, checked({"pakages"}, kPackages).status);
 }
 
+TEST(Check, EveryEncodingIsChecked) {
+  const I18NString packages(kPackages);
+  std::string little = "\xFF\xFE";
+  std::string big = "\xFE\xFF";
+  for (const char16_t unit : packages.view()) {
+    little += {static_cast<char>(unit & 0xFF), static_cast<char>(unit >> 8)};
+    big += {static_cast<char>(unit >> 8), static_cast<char>(unit & 0xFF)};
+  }
+  for (const std::string& document : {little, big})
+    expectChecked(kStatusOk, "standard input: packages: fits\n", checked({}, document));
+}
+
 TEST(Check, EmptyReplyFitsOneOfItsKinds) {
   const ToolRun run = checked({}, "<response/>");
   EXPECT_EQ(kStatusOk, run.status) << run.out;

@@ -88,10 +88,10 @@ TEST(SchemaValidator, TextsAllowedAreToldAndNoValueIs) {
 
 TEST(SchemaValidator, NamespaceIsThatOfTheDeployment) {
   const std::string command = example("closeConnections");
-  const std::string other = replaced(command, "urn:dxmd:query-service:api:1", "urn:a&amp;b");
-  EXPECT_EQ("0 is in namespace \"urn:a&b\", and must be in namespace \"urn:dxmd:query-service:api:1\"\n",
+  const std::string other = replaced(command, "urn:dxmd:query-service:api:1", "urn:&amp;&lt;&quot;b");
+  EXPECT_EQ("0 is in namespace \"urn:&<\\\"b\", and must be in namespace \"urn:dxmd:query-service:api:1\"\n",
             misfits("closeConnections", other));
-  EXPECT_EQ("", misfits("closeConnections", other, {"urn:a&b", "urn:c"}));
+  EXPECT_EQ("", misfits("closeConnections", other, {"urn:&<\"b", "urn:c"}));
   EXPECT_EQ("0 is in namespace \"urn:a\", and must be in no namespace\n",
             misfits("packages", "<packages xmlns='urn:a'><package/></packages>"));
   EXPECT_EQ("0 is in no namespace, and must be in namespace \"urn:dxmd:query-service:api:1\"\n",

@@ -1,3 +1,5 @@
+#include <cstdlib>
+
 #include <gtest/gtest.h>
 
 #include <dxmd/queryframework/QFResponseDomHelper.h>
@@ -118,11 +120,11 @@ TEST(ResponseKind, LimitBoundsTheRows) {
 }
 
 TEST(ResponseKind, LargeReplyPrintsAsASmallOneDoes) {
-  // Beyond the size up to which documents are read whole, with its columns behind its rows.
+  // Beyond the size up to which documents are read whole and rows are kept in memory, with its columns behind its rows.
   std::string rows;
   std::string csv = "A,password\r\n";
   for (int i = 0; i < 120000; ++i) {
-    const std::string number = std::to_string(i);
+    const std::string number = std::string(30, 'n') + std::to_string(i);
     rows += "<row><value v='" + number + "'/><value v='hush'/></row>\n";
     csv += number + ",***\r\n";
   }
@@ -131,7 +133,7 @@ TEST(ResponseKind, LargeReplyPrintsAsASmallOneDoes) {
   ASSERT_LT(4u << 20, large.size());
   EXPECT_EQ(csv, rowsAs("csv", large));
   const std::string json = rowsAs("json", large);
-  EXPECT_NE(std::string::npos, json.find("    [\"119999\", \"***\"]\n  ]\n}\n"));
+  EXPECT_NE(std::string::npos, json.find("n119999\", \"***\"]\n  ]\n}\n"));
   // Nothing prints of what is not well-formed.
   const ToolRun cut = run({"decode", "response", "--format", "csv"}, large.substr(0, large.size() - 1));
   EXPECT_EQ(4, cut.status);
@@ -141,4 +143,18 @@ TEST(ResponseKind, LargeReplyPrintsAsASmallOneDoes) {
       "standard input: a document of this size is read one \"row\" at a time, and in this one they do not all "
       "stand in one place",
       run({"decode", "response"}, "<response><resultData>" + rows + "</resultData><resultData/></response>"));
+  expectFailure(dxmd_tool::kStatusUnfit, "standard input: no response: it is one row",
+                run({"decode", "response"}, "<row>" + rows + "</row>"));
+  ::setenv("TMPDIR", "/dev/null", 1);
+  expectFailure(dxmd_tool::kStatusFile, "temporary file: cannot be made: Not a directory",
+                run({"decode", "response"}, large));
+  ::unsetenv("TMPDIR");
+}
+
+TEST(ResponseKind, LongRowsHaveALineForEachValue) {
+  const std::string a(60, 'a');
+  EXPECT_EQ(
+      "{\n  \"rows\": [\n    [\n      \"" + a + "\",\n      null,\n      \"" + a + "\"\n    ],\n    [\"b\"]\n  ]\n}\n",
+      rowsAs("json", "<response><resultData><row><value v='" + a + "'/><value/><value v='" + a +
+                         "'/></row><row><value v='b'/></row></resultData></response>"));
 }
