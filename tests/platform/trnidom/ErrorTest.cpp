@@ -150,7 +150,7 @@ TEST_F(Errors, AreKeptByCopies) {
   }
   ASSERT_EQ(2U, kept.size());
   kept.front() = kept.back();
-  EXPECT_STREQ("createElement on the document: \"2\" is no XML name (INVALID_CHARACTER_ERR)", kept.front().what());
+  EXPECT_STREQ("createElement on document: \"2\" is no XML name (INVALID_CHARACTER_ERR)", kept.front().what());
 
   TRNIDOM_ParseError first(1, 2, "first");
   const TRNIDOM_ParseError second(3, 4, "second");

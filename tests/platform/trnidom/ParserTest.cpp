@@ -192,8 +192,8 @@ TEST(Parser, TellsWideCharactersByTheXmlDeclaration) {
   EXPECT_EQ("<a>b</a>", xmlOf(parsed(wide(declared("UTF-16LE"), 0, 1))));
   EXPECT_EQ("<a>b</a>", xmlOf(parsed(wide("<?xml\tversion='1.0'?><a>b</a>", 0, 1))));
   for (const char* encoding : {"UTF-16BE", "UTF-32", "ISO-8859-1"})
-    EXPECT_EQ("1:1: the document is not in the encoding \"" + std::string(encoding) + "\"",
-              error(wide(declared(encoding), 0, 1)));
+    EXPECT_NE(std::string::npos, error(wide(declared(encoding), 0, 1))
+                                     .find(": the document is not in the encoding \"" + std::string(encoding) + "\""));
   // No declaration, but an instruction.
   EXPECT_NE("parsed", error(wide("<?xmlm ?><a>b</a>", 0, 1)));
 }
