@@ -125,6 +125,7 @@ TEST(Secrets, TextsAreMaskedByWhatStandsAroundSecrets) {
       {"connect scott/tiger@orcl", "connect scott/***@orcl"},
       {"scott/tiger@", "scott/***@"},
       {"apikey=k;x=1", "apikey=***;x=1"},
+      {"token:\"a;secret=\"b\";x=1", "token:\"***\";x=1"},
       {"pass=k;secret = l;token=m", "pass=***;secret =***;token=***"},
       {"failed for <password a='b'>p</password>.", "failed for <password a='b'>***</password>."},
       {"select * from t where TICKET_ID = 5 and x = 'y'", "select * from t where TICKET_ID = 5 and x = 'y'"},

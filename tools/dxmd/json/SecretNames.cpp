@@ -179,6 +179,12 @@ class Finder {
       // In a text within a text the quotes are escaped: there the closing one is as the opening one.
       const std::string closing = std::string(m_text.substr(first, quote - first)) + close;
       std::size_t end = closingAt(quote + 1, closing);
+      // What follows a name may be no closing quote, but open the next secret: that is hidden too.
+      while (isQuote && end < m_text.size() && isSignOfSecret(end - 1)) {
+        const std::size_t next = closingAt(end + closing.size(), closing);
+        if (next == m_text.size()) break;
+        end = next;
+      }
       const bool isClosed = end < m_text.size();
       const std::size_t behind = std::min(end + closing.size(), m_text.size());
       const std::size_t next = skipSpaces(behind);
@@ -197,6 +203,11 @@ class Finder {
     }
     // Spaces behind "=" may belong to the value.
     set(m_text[sign] == '=' ? sign + 1 : first, findAny(isJsonKey(sign) ? ",}];\n\r"sv : ";\n\r"sv, first));
+  }
+
+  /// Whether the value of a secret would begin behind this.
+  bool isSignOfSecret(std::size_t index) const {
+    return (m_text[index] == '=' || m_text[index] == ':') && areSecret(nameBefore(index));
   }
 
   /// Whether the name before the sign is in quotes, and the sign a colon.
