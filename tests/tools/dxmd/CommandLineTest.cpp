@@ -27,10 +27,6 @@ std::string nestedElements(std::size_t levels) {
   return xml;
 }
 
-bool has(const std::string& text, const std::string& part) {
-  return text.find(part) != std::string::npos;
-}
-
 }  // namespace
 
 TEST(CommandLine, WrongUsageIsStatus2) {

@@ -176,6 +176,12 @@ TEST_P(EveryKind, ExampleShowsEveryKey) {
   }
 }
 
+// The documents show every key at its place, but for what examples do not show of several choices.
+TEST_P(EveryKind, ExampleIsEncodedAsItStandsInItsFile) {
+  EXPECT_EQ(bytesOf(DXMD_SOURCE "/tests/tools/dxmd/kinds/" + kind().family + "/" + kind().name + ".xml"),
+            encodedExample(kind().name, 2));
+}
+
 TEST_P(EveryKind, ExampleRoundTrips) {
   const Description description = kind().describe();
   Json expected = exampleJson();

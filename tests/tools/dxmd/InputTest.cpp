@@ -17,10 +17,6 @@ using namespace dxmd_tool;
 
 namespace {
 
-bool has(const std::string& text, const std::string& part) {
-  return text.find(part) != std::string::npos;
-}
-
 std::string example(const std::string& kind, unsigned indent = 0) {
   std::istringstream json(findKind(kind).example);
   Settings settings;

@@ -31,6 +31,9 @@ TEST(JsonParser, SyntaxErrorsNamePlaceAndShowNoText) {
   expectRefused(JsonError::kMalformed,
                 "in:1:21: not JSON: syntax error while parsing value - invalid string: missing closing quote",
                 R"({"password": "secret)");
+  expectRefused(JsonError::kMalformed,
+                "in:1:25: not JSON: syntax error while parsing object - unexpected string literal; expected '}'",
+                R"({"password": "secret" "x"})");
   const std::string open = "{\"\xC3\xA4\": \"secret\xFF\"}";
   expectRefused(JsonError::kMalformed,
                 "in:1:14: not JSON: syntax error while parsing value - invalid string: ill-formed UTF-8 byte", open);

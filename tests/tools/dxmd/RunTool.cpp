@@ -7,8 +7,11 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <tools/dxmd/Registry.h>
 #include <tools/dxmd/Tool.h>
 #include <tools/dxmd/json/Json.h>
+
+#include "TestSupport.h"
 
 namespace dxmd_test {
 
@@ -28,17 +31,37 @@ std::string encoded(const std::string& kind, const std::string& json) {
   return result.out.substr(0, result.out.find('\n'));
 }
 
-std::string encodedBody(const std::string& kind, const std::string& json) {
-  const std::string xml = encoded(kind, json);
-  const std::size_t start = xml.find('>') + 1;
-  const std::size_t end = xml.find("<commandID");
-  return end == std::string::npos ? xml : xml.substr(start, end - start);
-}
-
 std::string decoded(const std::string& kind, const std::string& xml) {
   const ToolRun result = run({"decode", kind, "--indent", "0", "--show-secrets"}, xml);
   EXPECT_EQ("", result.err);
-  return result.out;
+  return result.out.substr(0, result.out.find('\n'));
+}
+
+std::string encodedExample(const std::string& kind, unsigned indent) {
+  const std::string xml =
+      run({"encode", kind, "--indent", std::to_string(indent)}, dxmd_tool::findKind(kind).example).out;
+  return indent == 0 ? xml.substr(0, xml.find('\n')) : xml;
+}
+
+void expectEncoded(const std::string& kind, const std::string& json, const std::string& xml) {
+  expectXml(xml, encoded(kind, json));
+}
+
+void expectDecoded(const std::string& kind, const std::string& xml, const std::string& json) {
+  EXPECT_EQ(json, decoded(kind, xml));
+}
+
+void expectBothWays(const std::string& kind, const std::string& json, const std::string& xml) {
+  expectEncoded(kind, json, xml);
+  expectDecoded(kind, xml, json);
+}
+
+void expectNotEncoded(const std::string& kind, const std::string& json, const std::string& message) {
+  expectFailure(dxmd_tool::kStatusUnfit, "standard input: " + message, run({"encode", kind}, json));
+}
+
+void expectNotDecoded(const std::string& kind, const std::string& xml, const std::string& message) {
+  expectFailure(dxmd_tool::kStatusUnfit, "standard input: " + message, run({"decode", kind}, xml));
 }
 
 void expectFailure(dxmd_tool::Status status, const std::string& message, const ToolRun& run) {
@@ -76,6 +99,16 @@ void keepEncoded(const std::string& kind, const std::string& json, const std::st
       {"kind", kind}, {"json", dxmd_tool::Json::parse(json)}, {"xml", xml}, {"refusal", refusal}};
   std::ofstream(folder + ("/" + std::to_string(::getpid())), std::ios::app)
       << kept.dump(-1, ' ', false, dxmd_tool::Json::error_handler_t::replace) << "\n";
+}
+
+bool has(const std::string& text, const std::string& part) {
+  return text.find(part) != std::string::npos;
+}
+
+std::string repeated(std::size_t count, const std::string& text) {
+  std::string all;
+  for (; count > 0; --count) all += text;
+  return all;
 }
 
 }  // namespace dxmd_test

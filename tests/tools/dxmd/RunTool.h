@@ -25,11 +25,26 @@ ToolRun run(const std::vector<std::string>& args, const std::string& in = "");
 /// Encodes JSON, which must succeed: one line, without its end.
 std::string encoded(const std::string& kind, const std::string& json);
 
-/// What encoding a command puts between the envelope's start and its identifiers.
-std::string encodedBody(const std::string& kind, const std::string& json);
+/// The kind's example, encoded: compact, without the end of its line, or indented.
+std::string encodedExample(const std::string& kind, unsigned indent = 0);
 
-/// Decodes XML, which must succeed, with its secrets: one line of JSON, with its end.
+/// Decodes XML, which must succeed, with its secrets: one line of JSON, without its end.
 std::string decoded(const std::string& kind, const std::string& xml);
+
+/// Encodes JSON, which must give that compact XML.
+void expectEncoded(const std::string& kind, const std::string& json, const std::string& xml);
+
+/// Decodes XML, which must give that compact JSON.
+void expectDecoded(const std::string& kind, const std::string& xml, const std::string& json);
+
+/// Both, for compact JSON.
+void expectBothWays(const std::string& kind, const std::string& json, const std::string& xml);
+
+/// Encodes JSON that does not fit, which must say exactly that behind "dxmd: standard input: ".
+void expectNotEncoded(const std::string& kind, const std::string& json, const std::string& message);
+
+/// Decodes XML that does not fit, in the same way.
+void expectNotDecoded(const std::string& kind, const std::string& xml, const std::string& message);
 
 /// Runs the tool, which must fail with that status, say exactly that behind "dxmd: ", and print nothing.
 void expectFailure(dxmd_tool::Status status, const std::string& message, const ToolRun& run);
@@ -44,6 +59,11 @@ void expectJsonError(dxmd_tool::JsonError::Cause cause, const std::string& messa
 /// Keeps for the tests of schemas what was encoded, or refused for that reason, where DXMD_TEST_ENCODED names a folder.
 void keepEncoded(const std::string& kind, const std::string& json, const std::string& xml,
                  const std::string& refusal = "");
+
+bool has(const std::string& text, const std::string& part);
+
+/// The text, that many times.
+std::string repeated(std::size_t count, const std::string& text);
 
 }  // namespace dxmd_test
 

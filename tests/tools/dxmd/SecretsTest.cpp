@@ -147,6 +147,7 @@ TEST(Secrets, LoginThatBeginsInBracketsIsHiddenToItsEnd) {
 
 TEST(Secrets, MasksAreToldFromSecrets) {
   EXPECT_TRUE(holdsSecrets(Json::parse(R"({"a": [{"connection": "UID=u;PWD=p"}]})"), nullptr));
+  EXPECT_TRUE(holdsSecrets(Json::parse(R"({"password": 1})"), nullptr));
   EXPECT_FALSE(holdsSecrets(Json::parse(R"({"a": [{"connection": "UID=u;PWD="}], "password": ""})"), nullptr));
   EXPECT_NO_THROW(refuseMasks(Json::parse(R"({"a": "***", "password": "p***"})"), nullptr, "in"));
   for (const char* json : {R"({"password": "***"})", R"({"a": "PWD=***;x"})", R"({"a": "<a password='***'/>"})",

@@ -6,11 +6,6 @@
 using namespace dxmd_test;
 using namespace dxmd_tool;
 
-TEST(DefinitionFileKind, EqualLinesAreWrittenOnce) {
-  expectXml("<file><filePath/><contents><line>a</line><line/></contents><dbConnectionName>w</dbConnectionName></file>",
-            encoded("definitionFile", R"({"contents": ["a", "", "a", ""], "dbConnectionName": "w"})"));
-}
-
 TEST(DefinitionFileKind, TakesTheLinesOfATextFile) {
   const TempFolder folder;
   const std::string path = folder.add("q.def", "\xEF\xBB\xBF[Query]\r\n\ntitle = \xC3\xA9\r\n\n a\rb ");
@@ -34,13 +29,11 @@ TEST(DefinitionFileKind, TheRestOfAFileFromTextComesFromJson) {
 
 TEST(DefinitionFileKind, FilesWithoutLinesOrInAnotherEncodingAreRefused) {
   const TempFolder folder;
-  const std::string empty = folder.add("empty", "");
-  expectFailure(kStatusUnfit, empty + ": must not be empty", run({"encode", "definitionFile", "--from", empty}));
-  const std::string latin = folder.add("latin", "ok\n\xE9t\xE9\n");
-  expectFailure(kStatusUnfit, latin + ":2: not UTF-8", run({"encode", "definitionFile", "--from", latin}));
-  const std::string control = folder.add("control", "ok\na\x01\n");
-  expectFailure(kStatusUnfit, control + ":2: U+0001 is no character of XML",
-                run({"encode", "definitionFile", "--from", control}));
-  expectFailure(kStatusUnfit, "standard input: $.contents: must not be empty",
-                run({"encode", "definitionFile"}, R"({"contents": []})"));
+  const auto expectRefused = [&](const std::string& text, const std::string& message) {
+    const std::string path = folder.add("text", text);
+    expectFailure(kStatusUnfit, path + message, run({"encode", "definitionFile", "--from", path}));
+  };
+  expectRefused("", ": must not be empty");
+  expectRefused("ok\n\xE9t\xE9\n", ":2: not UTF-8");
+  expectRefused("ok\na\x01\n", ":2: U+0001 is no character of XML");
 }

@@ -4,7 +4,6 @@
 #include "TestSupport.h"
 
 using namespace dxmd_test;
-using namespace dxmd_tool;
 
 namespace {
 
@@ -13,36 +12,29 @@ std::string commandOf(const std::string& definition, const std::string& name = "
                       "</definition></querySubject>");
 }
 
-std::string jsonOf(const std::string& definition) {
-  return R"({"modelPath":"m","definition":")" + definition + R"(","commandID":"DXCommand","requestID":"DXRequest"})";
-}
-
 }  // namespace
 
 TEST(QuerySubjectKind, FirstSqlTypeIsWrittenAnotherWayAndReadBack) {
-  const std::pair<const char*, const char*> all[] = {
-      {R"(<sql type=\"veltra\">x</sql>)", R"(<sql type="Veltra">x</sql>)"},
-      {R"(<q><sql type=\"native\"/><a><sql type=\"veltra\"/></a><sql type=\"veltra\"/></q>)",
-       R"(<q><sql type="native"/><a><sql type="Veltra"/></a><sql type="veltra"/></q>)"},
-      {R"(<q><sql/></q>)", R"(<q><sql/></q>)"},
+  const auto expectDefinition = [](const std::string& json, const std::string& xml) {
+    expectBothWays(
+        "querySubject",
+        R"({"modelPath":"m","definition":")" + json + R"(","commandID":"DXCommand","requestID":"DXRequest"})",
+        commandOf(xml));
   };
-  for (const auto& [json, xml] : all) {
-    expectXml(commandOf(xml), encoded("querySubject", jsonOf(json)));
-    EXPECT_EQ(jsonOf(json) + "\n", decoded("querySubject", commandOf(xml)));
-  }
+  expectDefinition(R"(<sql type=\"veltra\">x</sql>)", R"(<sql type="Veltra">x</sql>)");
+  expectDefinition(R"(<q><sql type=\"native\"/><a><sql type=\"veltra\"/></a><sql type=\"veltra\"/></q>)",
+                   R"(<q><sql type="native"/><a><sql type="Veltra"/></a><sql type="veltra"/></q>)");
+  expectDefinition("<q><sql/></q>", "<q><sql/></q>");
 }
 
 TEST(QuerySubjectKind, CommandThatNoJsonMakesIsRefusedWithItsPlace) {
-  const std::string in = "standard input: /command/dxCommand/querySubject";
-  const auto expectRefused = [](const std::string& message, const std::string& xml) {
-    expectFailure(kStatusUnfit, message, run({"decode", "querySubject"}, xml));
-  };
-  expectRefused(in + "/definition: a definition is one element", commandOf("x"));
-  expectRefused(in + "/definition: a definition is one element", commandOf("<a/><b/>"));
-  expectRefused(in + R"(/definition/q/sql[1]: the first "type" that is "veltra" is written as "Veltra")",
-                commandOf(R"(<q><sql type="veltra"/><sql type="Veltra"/></q>)"));
-  expectRefused(in + R"(: its name is not "aBmtQuerySubject")", commandOf("<q/>", "other"));
-  expectRefused(
-      R"(standard input: no querySubject: its command is not "querySubject"; it is expandParameter; try dxmd decode expandParameter)",
-      inDXEnvelope("<expand/>"));
+  const std::string in = "/command/dxCommand/querySubject";
+  expectNotDecoded("querySubject", commandOf("x"), in + "/definition: a definition is one element");
+  expectNotDecoded("querySubject", commandOf("<a/><b/>"), in + "/definition: a definition is one element");
+  expectNotDecoded("querySubject", commandOf(R"(<q><sql type="veltra"/><sql type="Veltra"/></q>)"),
+                   in + R"(/definition/q/sql[1]: the first "type" that is "veltra" is written as "Veltra")");
+  expectNotDecoded("querySubject", commandOf("<q/>", "other"), in + R"(: its name is not "aBmtQuerySubject")");
+  expectNotDecoded(
+      "querySubject", inDXEnvelope("<expand/>"),
+      R"(no querySubject: its command is not "querySubject"; it is expandParameter; try dxmd decode expandParameter)");
 }

@@ -1,34 +1,22 @@
 #include <gtest/gtest.h>
 
 #include "RunTool.h"
-#include "TestSupport.h"
 
 using namespace dxmd_test;
-using namespace dxmd_tool;
-
-TEST(UpdateKind, SubjectsAreTextsWithNames) {
-  expectXml(
-      R"(<update><updateSet><modelPath>m</modelPath><updateSubject name="s">&lt;x/&gt;</updateSubject></updateSet></update>)",
-      encodedBody("update", R"({"modelPath": "m", "updateSubjects": [{"name": "s", "text": "<x/>"}]})"));
-}
 
 TEST(UpdateKind, CapturedCommandDecodesToWhatMakesIt) {
-  EXPECT_EQ(R"({"modelPath":"m","commandID":"C","requestID":"R","updateSubjects":[{"name":"s","text":"<x/> & y"},)"
-            R"({"name":"s","text":""}]})"
-            "\n",
-            decoded("update", R"(<command><update><updateSet>
+  expectDecoded("update", R"(<command><update><updateSet>
         <modelPath>m</modelPath><note/>
         <updateSubject name="s">&lt;x/&gt;<![CDATA[ & y]]></updateSubject><updateSubject name="s"/>
-      </updateSet></update><commandID value="C"/><requestID value="R"/></command>)"));
-  EXPECT_EQ(R"({"modelPath":"","commandID":"","requestID":""})"
-            "\n",
-            decoded("update", "<command><update><updateSet/></update></command>"));
+      </updateSet></update><commandID value="C"/><requestID value="R"/></command>)",
+                R"({"modelPath":"m","commandID":"C","requestID":"R","updateSubjects":[)"
+                R"({"name":"s","text":"<x/> & y"},{"name":"s","text":""}]})");
+  expectDecoded("update", "<command><update><updateSet/></update></command>",
+                R"({"modelPath":"","commandID":"","requestID":""})");
 }
 
 TEST(UpdateKind, CommandWithoutItsPartsIsRefused) {
-  expectFailure(kStatusUnfit, R"(standard input: /command/update: the element "updateSet" is missing)",
-                run({"decode", "update"}, "<command><update/></command>"));
-  expectFailure(kStatusUnfit,
-                R"(standard input: no update: its command is not "update"; it is validate; try dxmd decode validate)",
-                run({"decode", "update"}, "<command><validate/></command>"));
+  expectNotDecoded("update", "<command><update/></command>", R"(/command/update: the element "updateSet" is missing)");
+  expectNotDecoded("update", "<command><validate/></command>",
+                   R"(no update: its command is not "update"; it is validate; try dxmd decode validate)");
 }
