@@ -1,12 +1,8 @@
 #include <tools/dxmd/Detect.h>
 
-#include <sstream>
-
 #include <gtest/gtest.h>
 
 #include <tools/dxmd/Registry.h>
-#include <tools/dxmd/ToolError.h>
-#include <tools/dxmd/Verbs.h>
 
 #include "RunTool.h"
 #include "TestSupport.h"
@@ -15,11 +11,6 @@ using namespace dxmd_test;
 using namespace dxmd_tool;
 
 namespace {
-
-std::string example(const std::string& kind) {
-  std::istringstream json(findKind(kind).example);
-  return encode(findKind(kind), Settings(), json);
-}
 
 std::string kindsOf(const std::string& xml) {
   std::string names;
@@ -38,7 +29,7 @@ void expectNoKind(const std::string& message, const std::string& xml, Status sta
 }  // namespace
 
 TEST(Detect, EveryExampleIsOfItsKindAlone) {
-  for (const Kind& kind : allKinds()) EXPECT_EQ(kind.name, kindsOf(example(kind.name)));
+  for (const Kind& kind : allKinds()) EXPECT_EQ(kind.name, kindsOf(encodedExample(kind.name)));
 }
 
 TEST(Detect, RootThatSeveralKindsHaveIsToldByWhatItHolds) {

@@ -66,7 +66,7 @@ class EveryKind : public testing::TestWithParam<std::string> {
       ADD_FAILURE() << path << " was accepted in " << json.dump();
     } catch (const ToolError& error) {
       EXPECT_EQ(kStatusUnfit, error.status()) << error.what();
-      EXPECT_NE(std::string::npos, std::string(error.what()).find(path)) << path << " is not in: " << error.what();
+      EXPECT_TRUE(has(error.what(), path)) << path << " is not in: " << error.what();
     }
   }
 
@@ -141,7 +141,7 @@ TEST_P(EveryKind, SaysWhatItIs) {
 
 TEST_P(EveryKind, SaysWhichClassIsItsOwnAndWhatAnswersIt) {
   const std::string header = bytesOf(DXMD_SOURCE "/dxmd/" + kind().family + "/" + kind().helper + ".h");
-  EXPECT_NE(std::string::npos, header.find("class DXMD_API " + kind().helper + " ")) << kind().helper;
+  EXPECT_TRUE(has(header, "class DXMD_API " + kind().helper + " ")) << kind().helper;
   if (!kind().reply.empty()) {
     EXPECT_NO_THROW(findKind(kind().reply));
   }
@@ -274,7 +274,7 @@ TEST_P(EveryKind, SecretsAreHiddenUnlessAskedFor) {
   const Json shown = decoded(xml);
   const std::string hidden = decoded(xml, false).dump();
   for (const std::string& secret : secretsIn(shown))
-    EXPECT_EQ(std::string::npos, hidden.find(Json(secret).dump())) << secret << " shows";
+    EXPECT_FALSE(has(hidden, Json(secret).dump())) << secret << " shows";
 }
 
 TEST_P(EveryKind, WrongDocumentIsRefusedByItsRoot) {
@@ -318,7 +318,7 @@ TEST_P(EveryKind, HelpDescribesIt) {
   for (const char* verb : {"encode", "decode"}) {
     const ToolRun help = run({verb, kind().name, "--help"});
     EXPECT_EQ(0, help.status) << help.err;
-    EXPECT_NE(std::string::npos, help.out.find(kind().summary));
+    EXPECT_TRUE(has(help.out, kind().summary));
   }
   EXPECT_EQ(kind().example + "\n", run({"example", kind().name}).out);
 }

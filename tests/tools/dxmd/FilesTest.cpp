@@ -42,15 +42,6 @@ TEST(Files, NewFileHasTheModeThatTheMaskAllows) {
   EXPECT_EQ(0640u, modeOf(folder.path("out")));
 }
 
-TEST(Files, SymbolicLinkIsFollowed) {
-  const TempFolder folder;
-  folder.add("target", "old");
-  std::filesystem::create_symlink("target", folder.path("link"));
-  writeFile(folder.path("link"), "new");
-  EXPECT_EQ("new", bytesOf(folder.path("target")));
-  EXPECT_TRUE(std::filesystem::is_symlink(folder.path("link")));
-}
-
 TEST(Files, FailuresNameFileAndReasonAndLeaveNothing) {
   const TempFolder folder;
   const std::string inNowhere = folder.path("nowhere/out");
@@ -75,11 +66,14 @@ TEST(Files, StreamThatFailsIsAnError) {
   expectToolError(kStatusFile, "in: cannot be read", [&] { readStream(in, "in"); });
 }
 
-TEST(Files, DanglingLinkIsFollowed) {
+TEST(Files, SymbolicLinkIsFollowedAndStays) {
   const TempFolder folder;
   std::filesystem::create_symlink("target", folder.path("link"));
-  writeFile(folder.path("link"), "new");
-  EXPECT_EQ("new", bytesOf(folder.path("target")));
+  for (const char* text : {"where nothing was", "where a file is"}) {
+    writeFile(folder.path("link"), text);
+    EXPECT_EQ(text, bytesOf(folder.path("target")));
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.path("link")));
+  }
   std::filesystem::create_symlink("loop", folder.path("loop"));
   expectToolError(kStatusFile, folder.path("loop") + ": cannot be written: Too many levels of symbolic links",
                   [&] { writeFile(folder.path("loop"), "new"); });

@@ -1,13 +1,10 @@
 // What decode, format and diff make of files as people have them.
 
-#include <sstream>
-
 #include <gtest/gtest.h>
 #include <trnidom/TRNIDOM_Parser.h>
 #include <trnidom/TRNIDOM_Writer.h>
 
 #include <tools/dxmd/Registry.h>
-#include <tools/dxmd/Verbs.h>
 
 #include "RunTool.h"
 #include "TestSupport.h"
@@ -17,16 +14,9 @@ using namespace dxmd_tool;
 
 namespace {
 
-std::string example(const std::string& kind, unsigned indent = 0) {
-  std::istringstream json(findKind(kind).example);
-  Settings settings;
-  settings.indent = indent;
-  return encode(findKind(kind), settings, json);
-}
-
 /// The example with a prefix on every name, in an envelope behind the head of an answer.
 std::string wrapped(const std::string& kind) {
-  std::string xml = example(kind, 3);
+  std::string xml = encodedExample(kind, 3);
   for (std::size_t at = xml.find('<'); at != std::string::npos; at = xml.find('<', at + 1))
     xml.insert(at + (xml[at + 1] == '/' ? 2 : 1), "n:");
   return "HTTP/1.1 200 OK\r\nServer: s\r\n\r\n\n<?xml version='1.0' encoding='UTF-16'?>\n<s:Envelope><s:Body>\n" + xml +
@@ -39,9 +29,9 @@ const std::string kError = "<response><message severity=\"error\">No such item</
 
 TEST(DecodeCaptured, EveryKindReadsBackIndentedWrappedAndUnnamed) {
   for (const Kind& kind : allKinds()) {
-    const std::string expected = run({"decode", kind.name}, example(kind.name)).out;
+    const std::string expected = run({"decode", kind.name}, encodedExample(kind.name)).out;
     const bool isError = kind.errors && kind.name != "feedback";
-    for (const std::string& captured : {example(kind.name, 2), wrapped(kind.name)}) {
+    for (const std::string& captured : {encodedExample(kind.name, 2), wrapped(kind.name)}) {
       EXPECT_EQ(expected, run({"decode", kind.name}, captured).out) << captured;
       const ToolRun found = run({"decode"}, captured);
       EXPECT_EQ(expected, found.out) << captured;
@@ -51,11 +41,12 @@ TEST(DecodeCaptured, EveryKindReadsBackIndentedWrappedAndUnnamed) {
 }
 
 TEST(DecodeCaptured, ExactReadsTheDocumentAsItIs) {
-  EXPECT_EQ(1, run({"decode", "refinedObjects", "--exact"}, example("refinedObjects", 2)).status);
-  EXPECT_EQ(0, run({"decode", "--exact"}, example("refinedObjects")).status);
-  EXPECT_EQ(
-      1, run({"decode", "execute", "--exact"}, "<Envelope><Body>" + example("execute") + "</Body></Envelope>").status);
-  EXPECT_EQ(4, run({"decode", "execute", "--exact"}, "HTTP/1.1 200 OK\n\n" + example("execute")).status);
+  EXPECT_EQ(1, run({"decode", "refinedObjects", "--exact"}, encodedExample("refinedObjects", 2)).status);
+  EXPECT_EQ(0, run({"decode", "--exact"}, encodedExample("refinedObjects")).status);
+  EXPECT_EQ(1,
+            run({"decode", "execute", "--exact"}, "<Envelope><Body>" + encodedExample("execute") + "</Body></Envelope>")
+                .status);
+  EXPECT_EQ(4, run({"decode", "execute", "--exact"}, "HTTP/1.1 200 OK\n\n" + encodedExample("execute")).status);
 }
 
 TEST(DecodeCaptured, PlacesAreThoseInTheFile) {
@@ -71,7 +62,7 @@ TEST(DecodeKind, ReplyOfAnotherKindIsRefusedInWords) {
   for (const std::string& asked : replies) {
     for (const std::string& given : replies) {
       if (asked == given) continue;
-      const ToolRun wrong = run({"decode", asked}, example(given));
+      const ToolRun wrong = run({"decode", asked}, encodedExample(given));
       EXPECT_EQ(given == "validateReply" ? 6 : 1, wrong.status) << asked << ", " << given;
       EXPECT_EQ("", wrong.out);
       EXPECT_TRUE(has(wrong.err, "no " + asked + ": it holds none of ")) << wrong.err;
@@ -178,10 +169,7 @@ TEST(DecodeLarge, CapturedRowsAreReadOneByOne) {
 
 TEST(DecodeHostile, WhatWouldGrowWithTheSquareOfTheDepthIsRefused) {
   const auto nested = [](const std::string& start, const std::string& end) {
-    std::string xml;
-    for (int level = 0; level < 2000; ++level) xml += start;
-    for (int level = 0; level < 2000; ++level) xml += end;
-    return xml;
+    return repeated(2000, start) + repeated(2000, end);
   };
   const std::string why = "nest so deep that the result would be many times larger than the document\n";
   const ToolRun fault =
@@ -215,17 +203,14 @@ TEST(Format, IndentsAndHidesSecretsInAnyXml) {
   EXPECT_EQ("<a password=\"p\"/>\n", run({"format", "--show-secrets"}, "<a password='p'/>").out);
   EXPECT_EQ("<a>\n <b/>\n</a>\n", run({"format", "--indent", "1"}, "<a>\n\n<b/></a>").out);
   EXPECT_EQ(4, run({"format"}, "<a>").status);
-  std::string deep;
-  for (int level = 0; level < 100000; ++level) deep += "<a>";
-  for (int level = 0; level < 100000; ++level) deep += "</a>";
-  EXPECT_EQ(0, run({"format"}, deep).status);
+  EXPECT_EQ(0, run({"format"}, repeated(100000, "<a>") + repeated(100000, "</a>")).status);
 }
 
 TEST(Diff, NamesTheFileThatFails) {
   const TempFolder folder;
   const std::string other = folder.add("other.xml", "<other/>");
   for (const std::vector<std::string>& kind : {std::vector<std::string>{}, {"--kind", "response"}}) {
-    std::vector<std::string> args{"diff", folder.add("reply.xml", example("response")), other};
+    std::vector<std::string> args{"diff", folder.add("reply.xml", encodedExample("response")), other};
     args.insert(args.end(), kind.begin(), kind.end());
     EXPECT_EQ(0u, run(args).err.find("dxmd: " + other + ": no "));
   }
@@ -233,11 +218,11 @@ TEST(Diff, NamesTheFileThatFails) {
 
 TEST(Diff, TellsWhatDiffersAsDiffDoes) {
   const TempFolder folder;
-  const std::string left = folder.add("left.xml", example("response"));
+  const std::string left = folder.add("left.xml", encodedExample("response"));
   const auto differences = [&](const std::string& name, const std::string& xml) {
     return run({"diff", left, folder.add(name, xml)});
   };
-  EXPECT_EQ(0, differences("same.xml", example("response", 4)).status);
+  EXPECT_EQ(0, differences("same.xml", encodedExample("response", 4)).status);
   const std::string right = R"(<response><columnList><column name="Region" type="x"/></columnList><resultData>)"
                             R"(<row><value v="North"/><value v="1200.50"/></row><row><value v="West"/></row>)"
                             R"(<row><value v="South"/><value v=""/></row></resultData></response>)";

@@ -8,18 +8,17 @@
 #include <unistd.h>
 
 #include <tools/dxmd/Registry.h>
-#include <tools/dxmd/Tool.h>
 #include <tools/dxmd/json/Json.h>
 
 #include "TestSupport.h"
 
 namespace dxmd_test {
 
-ToolRun run(const std::vector<std::string>& args, const std::string& in) {
+ToolRun run(const std::vector<std::string>& args, const std::string& in, const dxmd_tool::Console& console) {
   std::istringstream input(in);
   std::ostringstream out;
   std::ostringstream err;
-  const int status = dxmd_tool::runTool(args, input, out, err);
+  const int status = dxmd_tool::runTool(args, input, out, err, console);
   if (args.size() == 2 && args[0] == "encode" && status != dxmd_tool::kStatusUsage)
     keepEncoded(args[1], in, out.str(), err.str());
   return {status, out.str(), err.str()};

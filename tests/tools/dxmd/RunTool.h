@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include <tools/dxmd/Tool.h>
 #include <tools/dxmd/ToolError.h>
 #include <tools/dxmd/json/JsonError.h>
 
@@ -20,7 +21,8 @@ struct ToolRun {
 };
 
 /// Runs the tool in this process.
-ToolRun run(const std::vector<std::string>& args, const std::string& in = "");
+ToolRun run(const std::vector<std::string>& args, const std::string& in = "",
+            const dxmd_tool::Console& console = dxmd_tool::Console());
 
 /// Encodes JSON, which must succeed: one line, without its end.
 std::string encoded(const std::string& kind, const std::string& json);

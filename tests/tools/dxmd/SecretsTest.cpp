@@ -7,6 +7,9 @@
 #include <tools/dxmd/json/Quote.h>
 #include <tools/dxmd/shape/Shape.h>
 
+#include "RunTool.h"
+
+using namespace dxmd_test;
 using namespace dxmd_tool;
 
 namespace {
@@ -89,7 +92,7 @@ TEST(Secrets, TextsOfXmlWithinXmlAreSearchedToo) {
       deep.replace(at, 1, deep[at] == '<' ? "&lt;" : "&amp;");
     deep = "<a>" + deep + "</a>";
   }
-  EXPECT_EQ(std::string::npos, shownText(deep).find("planted"));
+  EXPECT_FALSE(has(shownText(deep), "planted"));
 }
 
 TEST(Secrets, ErrorsQuoteNoneOfXml) {

@@ -6,6 +6,7 @@
 
 #include <tools/dxmd/Detect.h>
 
+#include "RunTool.h"
 #include "TestSupport.h"
 
 using namespace dxmd_test;
@@ -57,15 +58,6 @@ TEST(Message, MessageStandsInTheBodyOfAnEnvelope) {
 
 TEST(Message, TreesMayBeOfAnyDepth) {
   constexpr int kLevels = 200000;
-  std::string indented;
-  std::string expected;
-  for (int level = 0; level < kLevels; ++level) {
-    indented += "<p:a> ";
-    expected += level + 1 < kLevels ? "<a>" : "<a> </a>";
-  }
-  for (int level = 0; level < kLevels; ++level) {
-    indented += level == 0 ? "</p:a>" : " </p:a>";
-    expected += level == 0 ? "" : "</a>";
-  }
-  EXPECT_TRUE(expected == message(indented));
+  EXPECT_TRUE(repeated(kLevels, "<a>") + " " + repeated(kLevels, "</a>") ==
+              message(repeated(kLevels, "<p:a> ") + repeated(kLevels, "</p:a> ")));
 }

@@ -2,11 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <tools/dxmd/Registry.h>
-#include <tools/dxmd/check/SchemaValidator.h>
 #include <tools/dxmd/json/Json.h>
 
 #include "RunTool.h"
+#include "TestSupport.h"
 
 using namespace dxmd_test;
 using namespace dxmd_tool;
@@ -44,11 +43,10 @@ TEST(Check, EachFileIsToldAndTheWorstStatusCounts) {
   const ToolRun run = checked({bad, cut, good, other});
   EXPECT_EQ(kStatusSyntax, run.status);
   EXPECT_EQ(0u, run.out.find(badText + cut + ":2:10: not well-formed: ")) << run.out;
-  EXPECT_NE(std::string::npos, run.out.find(good + ": packages: fits\n" + other + ":2:1: no kind of message: "))
-      << run.out;
+  EXPECT_TRUE(has(run.out, good + ": packages: fits\n" + other + ":2:1: no kind of message: ")) << run.out;
   const ToolRun missing = checked({none, good});
   EXPECT_EQ(kStatusFile, missing.status);
-  EXPECT_NE(std::string::npos, missing.out.find(good + ": packages: fits\n")) << missing.out;
+  EXPECT_TRUE(has(missing.out, good + ": packages: fits\n")) << missing.out;
 }
 
 TEST(Check, ErrorsAreJsonWhenAskedFor) {
@@ -73,15 +71,10 @@ TEST(Check, KindMayBeNamed) {
 }
 
 TEST(Check, EveryEncodingIsChecked) {
-  const I18NString packages(kPackages);
-  std::string little = "\xFF\xFE";
-  std::string big = "\xFE\xFF";
-  for (const char16_t unit : packages.view()) {
-    little += {static_cast<char>(unit & 0xFF), static_cast<char>(unit >> 8)};
-    big += {static_cast<char>(unit >> 8), static_cast<char>(unit & 0xFF)};
-  }
-  for (const std::string& document : {little, big})
-    expectChecked(kStatusOk, "standard input: packages: fits\n", checked({}, document));
+  for (const bool bigEndian : {false, true})
+    expectChecked(
+        kStatusOk, "standard input: packages: fits\n",
+        checked({}, utf16(u"\uFEFF<packages><package cmSearchPath='a' defaultName='b'/></packages>", bigEndian)));
 }
 
 TEST(Check, EmptyReplyFitsOneOfItsKinds) {
@@ -90,7 +83,7 @@ TEST(Check, EmptyReplyFitsOneOfItsKinds) {
 }
 
 TEST(Check, CapturedMessageIsCheckedWhereItStands) {
-  const std::string message = encoded("closeConnections", findKind("closeConnections").example);
+  const std::string message = encodedExample("closeConnections");
   const std::string body = message.substr(message.find("><") + 1);
   const std::string envelope =
       "HTTP/1.1 200 OK\r\n\r\n<s:Envelope xmlns:s='urn:s' xmlns='urn:dxmd:query-service:api:1'>\n<s:Header/><s:Body>\n"
@@ -99,16 +92,10 @@ TEST(Check, CapturedMessageIsCheckedWhereItStands) {
                 "standard input: closeConnections: does not fit at 1 place\n"
                 "standard input:5:3: \"command\" has no attribute \"extra\"\n",
                 checked({}, envelope + body + "</s:Body></s:Envelope>"));
-  const std::string utf16 = I18NString("\xEF\xBB\xBF<packages>\xC3\xA9\xF0\x9F\x98\x80<x/></packages>").toUtf8();
-  std::string units;
-  const I18NString text(utf16.c_str());
-  for (std::size_t i = 0; i < text.length(); ++i) {
-    units += static_cast<char>(text.c_str()[i] & 0xFF);
-    units += static_cast<char>(text.c_str()[i] >> 8);
-  }
-  EXPECT_NE(std::string::npos, checked({}, units).out.find("standard input:1:13: \"x\" does not belong here"));
-  EXPECT_NE(std::string::npos, checked({}, "<?xml version='1.0' encoding='ISO-8859-1'?>\n<packages>\xE9<x/></packages>")
-                                   .out.find("standard input:2:12: \"x\" does not belong here"));
+  const std::string wide = utf16(u"\uFEFF<packages>é😀<x/></packages>", false);
+  EXPECT_TRUE(has(checked({}, wide).out, "standard input:1:13: \"x\" does not belong here"));
+  const std::string latin = "<?xml version='1.0' encoding='ISO-8859-1'?>\n<packages>\xE9<x/></packages>";
+  EXPECT_TRUE(has(checked({}, latin).out, "standard input:2:12: \"x\" does not belong here"));
 }
 
 TEST(Check, PartsOfMessagesHaveThePrefixesOfTheWhole) {
@@ -125,20 +112,18 @@ TEST(Check, SecretsAndControlsAreInNoMessage) {
               "<connection><dataSourceType value=''/><password value='swordfish' other='swordfish'>swordfish</password>"
               "<property name='password' value='swordfish'/></connection>");
   EXPECT_EQ(kStatusUnfit, run.status);
-  EXPECT_NE(std::string::npos, run.out.find("does not fit at 4 places")) << run.out;
-  EXPECT_EQ(std::string::npos, run.out.find("swordfish")) << run.out;
+  EXPECT_TRUE(has(run.out, "does not fit at 4 places")) << run.out;
+  EXPECT_FALSE(has(run.out, "swordfish")) << run.out;
   const ToolRun quoted =
       checked({}, "<item xsi:type='bus:hierarchicalParmValueItem'><subNodes xsi:nil=\"'swordfish'\"/></item>");
   EXPECT_EQ(kStatusUnfit, quoted.status);
-  EXPECT_EQ(std::string::npos, quoted.out.find("swordfish")) << quoted.out;
+  EXPECT_FALSE(has(quoted.out, "swordfish")) << quoted.out;
   const ToolRun control = checked({}, "<packages><x\xE2\x80\xAE/></packages>");
-  EXPECT_EQ(std::string::npos, control.out.find("\xE2\x80\xAE")) << control.out;
+  EXPECT_FALSE(has(control.out, "\xE2\x80\xAE")) << control.out;
 }
 
 TEST(Check, DocumentTooDeepIsRefused) {
-  std::string deep;
-  for (int level = 0; level < 100000; ++level) deep += "<entry class='info'>";
-  for (int level = 0; level < 100000; ++level) deep += "</entry>";
+  const std::string deep = repeated(100000, "<entry class='info'>") + repeated(100000, "</entry>");
   expectChecked(kStatusUnfit,
                 "standard input:1:1: \"feedback\" is not checked: its document has more than 10000 levels\n",
                 checked({}, "<feedback>" + deep + "</feedback>"));

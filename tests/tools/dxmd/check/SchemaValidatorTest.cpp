@@ -31,7 +31,7 @@ std::string declared(std::string document) {
 }
 
 std::string example(const std::string& kind) {
-  return declared(encoded(kind, findKind(kind).example));
+  return declared(encodedExample(kind));
 }
 
 std::string replaced(std::string text, const std::string& from, const std::string& to) {
@@ -130,10 +130,8 @@ TEST(SchemaValidator, OneValidatesManyDocuments) {
 }
 
 TEST(SchemaValidator, DeepDocumentsAreValidated) {
-  std::string deep;
-  for (std::size_t level = 1; level < SchemaValidator::kDeepest; ++level) deep += "<entry class='info'>";
-  deep += "<entry/>";
-  for (std::size_t level = 1; level < SchemaValidator::kDeepest; ++level) deep += "</entry>";
+  const std::string deep = repeated(SchemaValidator::kDeepest - 1, "<entry class='info'>") + "<entry/>" +
+                           repeated(SchemaValidator::kDeepest - 1, "</entry>");
   EXPECT_EQ("10000 the attribute \"class\" is missing\n", misfits("feedback", "<feedback>" + deep + "</feedback>"));
 }
 
@@ -146,6 +144,6 @@ TEST(SchemaValidator, MissingOrWrongSchemaIsAnError) {
     ADD_FAILURE() << "it is no schema";
   } catch (const ToolError& error) {
     EXPECT_EQ(kStatusFile, error.status());
-    EXPECT_NE(std::string::npos, std::string(error.what()).find("packages.xsd: no schema: ")) << error.what();
+    EXPECT_TRUE(has(error.what(), "packages.xsd: no schema: ")) << error.what();
   }
 }

@@ -2,6 +2,9 @@
 
 #include <tools/dxmd/check/Tags.h>
 
+#include "RunTool.h"
+
+using namespace dxmd_test;
 using dxmd_tool::Tags;
 
 TEST(Tags, ElementsAreNumberedInDocumentOrder) {
@@ -30,8 +33,5 @@ TEST(Tags, PlacesCountLinesAndCharacters) {
 }
 
 TEST(Tags, DepthIsThatOfTheDeepestElement) {
-  std::string deep = "<r><a/>";
-  for (int level = 0; level < 100000; ++level) deep += "<a>";
-  for (int level = 0; level < 100000; ++level) deep += "</a>";
-  EXPECT_EQ(100001u, Tags(deep + "</r>").depth());
+  EXPECT_EQ(100001u, Tags("<r><a/>" + repeated(100000, "<a>") + repeated(100000, "</a>") + "</r>").depth());
 }
