@@ -16,10 +16,10 @@ class Program:
     def name(self):
         return self.path.name
 
-    def run(self, *arguments, **options):
+    def run(self, *arguments, environment=None, **options):
         """As subprocess.run, in the program's own folder."""
         return subprocess.run([self.path, *arguments], cwd=self.path.parent, stdin=subprocess.DEVNULL,
-                              env={**os.environ, **self.environment}, check=False, **options)
+                              env={**os.environ, **self.environment, **(environment or {})}, check=False, **options)
 
 
 def test_programs(build):
