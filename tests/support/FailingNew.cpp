@@ -118,12 +118,6 @@ void operator delete(void* block, std::size_t) noexcept {
 
 namespace dxmd_test {
 
-void withEachNewFailing(const std::function<void()>& action) {
-  action();  // what is made but once is there from now on
-  std::size_t number = 0;
-  while (run(number, number, action).allocations > number) ++number;
-}
-
 std::size_t withEachAllocationFailing(const std::function<void()>& action) {
   static const bool replaced = (replaceIcuMemory(), true);
   static_cast<void>(replaced);

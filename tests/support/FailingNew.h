@@ -9,13 +9,9 @@
 
 namespace dxmd_test {
 
-/// Runs the action with its first `new` failing, then with its second, and so on until it needs no more. What fails
-/// must leave the action as std::bad_alloc, if it does; the leak sanitizer sees what stays behind.
-void withEachNewFailing(const std::function<void()>& action);
-
-/// The same for an action that does all its work anew each time, and stricter: each allocation fails once alone and
-/// once with all that follow, ICU's among them, and each run must give back what it allocated. Gives the number of
-/// allocations of an undisturbed run.
+/// Runs an action that does all its work anew each time: each allocation, ICU's among them, fails once alone and once
+/// with all that follow. What fails must leave the action as std::bad_alloc, if it does, and each run must give back
+/// what it allocated. Gives the number of allocations of an undisturbed run.
 std::size_t withEachAllocationFailing(const std::function<void()>& action);
 
 /// What this thread has taken from `new` and not given back.
