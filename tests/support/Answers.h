@@ -5,6 +5,7 @@
 #include <stdexcept>
 #include <string>
 #include <type_traits>
+#include <utility>
 #include <vector>
 
 #include <trn/I18NString.h>
@@ -32,10 +33,14 @@ class Answers {
       m_text += (node.isNull() ? "null" : TRNIDOM_Writer::toString(node)) + "|";
       return *this;
     }
-    template <typename Value>
-    Line& operator<<(const std::vector<Value>& values) {
+    template <typename First, typename Second>
+    Line& operator<<(const std::pair<First, Second>& pair) {
+      return *this << pair.first << pair.second;
+    }
+    template <typename Values>
+    auto operator<<(const Values& values) -> decltype(*this << values.size() << *values.begin()) {
       *this << values.size();
-      for (const Value& value : values) *this << value;
+      for (const auto& value : values) *this << value;
       return *this;
     }
     const std::string& text() const { return m_text; }

@@ -22,10 +22,10 @@ struct Message {
   /// Has a new helper take the element, which stays as it is, and asks every getter. Whatever the element, it returns
   /// or throws TRNAssertError or TRNIDOM_DOMException; std::logic_error says which answers contradict each other. Null
   /// for what is only written.
-  void (*read)(TRNIDOM_Element& element, Answers& answers);
+  void (*read)(TRNIDOM_Element& element, Answers& answers) = nullptr;
 
   /// The same for what writes into the element that it is given. Null where nothing does.
-  void (*change)(TRNIDOM_Element& element);
+  void (*change)(TRNIDOM_Element& element) = nullptr;
 };
 
 /// Every message, by family; several for a helper that writes and reads different things.
