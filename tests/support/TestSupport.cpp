@@ -58,12 +58,24 @@ TRNIDOM_Element madeElement(const ActionHandlerBase& helper) {
 }
 
 std::string made(const ActionHandlerBase& helper) {
-  return xmlOf(madeElement(helper));
+  const TRNIDOM_Element element = madeElement(helper);
+  const TRNIDOM_Element again = madeElement(helper);
+  EXPECT_NE(element.getOwnerDocument(), again.getOwnerDocument());
+  EXPECT_EQ(xmlOf(element), xmlOf(again));
+  return xmlOf(element);
 }
 
-std::string inEnvelope(const std::string& command) {
+void take(ActionHandlerBase& helper, TRNIDOM_Element element) {
+  helper.Take(element);
+}
+
+void take(ActionHandlerBase& helper, const std::string& xml) {
+  take(helper, parsed(xml));
+}
+
+std::string inEnvelope(const std::string& command, const std::string& commandID, const std::string& requestID) {
   return R"(<command xmlns="urn:dxmd:query-service:api:1" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance">)" +
-         command + R"(<commandID value="DXCommand"/><requestID value="DXRequest"/></command>)";
+         command + "<commandID value=\"" + commandID + "\"/><requestID value=\"" + requestID + "\"/></command>";
 }
 
 std::string inDXEnvelope(const std::string& command) {

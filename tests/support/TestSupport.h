@@ -43,20 +43,24 @@ std::string xmlOf(const TRNIDOM_Node& node);
 /// The element that the helper's `Make` hands back.
 TRNIDOM_Element madeElement(const ActionHandlerBase& helper);
 
-/// What the helper's `Make` hands back, as compact XML.
+/// What the helper's `Make` hands back, as compact XML: the same at each call, in a document of its own.
 std::string made(const ActionHandlerBase& helper);
+
+/// Has the helper take the element, or the document element of the parsed text.
+void take(ActionHandlerBase& helper, TRNIDOM_Element element);
+void take(ActionHandlerBase& helper, const std::string& xml);
 
 /// A helper, made from the arguments, that took the document element of the parsed text.
 template <typename Helper, typename... Args>
 std::unique_ptr<Helper> taken(const std::string& xml, const Args&... args) {
   auto helper = std::make_unique<Helper>(args...);
-  TRNIDOM_Element element = parsed(xml);
-  helper->Take(element);
+  take(*helper, xml);
   return helper;
 }
 
-/// The command in its envelope, with the identifiers that commands have by default.
-std::string inEnvelope(const std::string& command);
+/// The command in its envelope, with the identifiers that commands have by default, or others.
+std::string inEnvelope(const std::string& command, const std::string& commandID = "DXCommand",
+                       const std::string& requestID = "DXRequest");
 
 /// The modelling command in its envelope, for a model that goes by "m".
 std::string inDXEnvelope(const std::string& command);

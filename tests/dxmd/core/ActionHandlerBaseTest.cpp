@@ -44,7 +44,7 @@ TEST(ActionHandlerBase, WhatIsHandedBackStandsUnattachedBesideItsDocumentsElemen
 
 TEST(ActionHandlerBase, AFailedAssertionReachesTheCallerAndKeepsWhatWasStored) {
   Notice notice;
-  TRNIDOM_Element element = parsed("<other/>");
-  expectAssert("TRN_ASSERT(elem.getTagName() == \"notice\");", "ActionHandlerBaseTest", [&] { notice.Take(element); });
+  expectAssert("TRN_ASSERT(elem.getTagName() == \"notice\");", "ActionHandlerBaseTest",
+               [&] { take(notice, "<other/>"); });
   EXPECT_EQ(1, notice.taken);
 }

@@ -82,9 +82,7 @@ TEST(DBConnection, MissingOptionalPartsKeepWhatWasHeldAndEmptyOnesReplaceIt) {
   DXActionHelperDBConnection connection;
   connection.setUserName("me");
   connection.setSchema("dbo");
-  TRNIDOM_Element element =
-      parsed("<any><dbType/><schema/><database>d</database><connectionString>c</connectionString></any>");
-  connection.Take(element);
+  take(connection, "<any><dbType/><schema/><database>d</database><connectionString>c</connectionString></any>");
   EXPECT_EQ("me", connection.getUserName());
   EXPECT_EQ("", connection.getSchema());
 }

@@ -52,10 +52,8 @@ TEST(IQDFile, MissingPartsKeepWhatWasHeld) {
   file.setFilePath("p");
   file.setDbConnectionName("conn");
   file.setCmDataSource("ds");
-  TRNIDOM_Element element = parsed("<file><x><filePath>q</filePath></x><cmDataSource/></file>");
-  file.Take(element);
-  TRNIDOM_Element null;
-  file.Take(null);
+  take(file, "<file><x><filePath>q</filePath></x><cmDataSource/></file>");
+  take(file, TRNIDOM_Element());
   EXPECT_EQ("p", file.getFilePath());
   EXPECT_EQ("conn", file.getDbConnectionName());
   EXPECT_EQ("", file.getCmDataSource());

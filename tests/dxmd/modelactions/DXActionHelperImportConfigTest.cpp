@@ -94,8 +94,7 @@ TEST(ImportConfig, TakesOnlyASource) {
     Config().Take(null);
   });
   const auto config = taken<Config>("<source queryType='q'/>");
-  TRNIDOM_Element other = parsed("<other/>");
-  EXPECT_THROW(config->Take(other), TRNAssertError);
+  EXPECT_THROW(take(*config, "<other/>"), TRNAssertError);
   I18NString answer;
   EXPECT_TRUE(config->getQueryType(answer)) << "what is refused is not remembered";
 }

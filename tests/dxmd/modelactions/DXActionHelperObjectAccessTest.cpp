@@ -162,18 +162,15 @@ TEST(ObjectAccess, RulesAndTheirTexts) {
 
 TEST(ObjectAccess, NeedsAnElementToReadOrRebuild) {
   Access access;
-  TRNIDOM_Element null;
   expectAssert("TRN_ASSERT(!m_requestRoot.isNull());", kFile, [&] { access.buildAccessVector(); });
-  expectAssert("TRN_ASSERT(!m_requestRoot.isNull());", kFile, [&] { access.Take(null); });
+  expectAssert("TRN_ASSERT(!m_requestRoot.isNull());", kFile, [&] { take(access, TRNIDOM_Element()); });
 }
 
 TEST(ObjectAccess, EntriesAreThoseReadUntilOneIsRefused) {
   const auto access = taken<Access>("<objectAccess><securityObject cmSearchPath='a'/></objectAccess>");
   EXPECT_EQ("a:unspecified ", entriesOf(*access));
-  TRNIDOM_Element bad = parsed("<o><securityObject cmSearchPath='b'/><x/></o>");
-  access->Take(bad);
+  take(*access, "<o><securityObject cmSearchPath='b'/><x/></o>");
   EXPECT_THROW(entriesOf(*access), TRNAssertError);
-  TRNIDOM_Element null;
-  EXPECT_THROW(access->Take(null), TRNAssertError);
+  EXPECT_THROW(take(*access, TRNIDOM_Element()), TRNAssertError);
   EXPECT_EQ("b:unspecified ", entriesOf(*access)) << "without an element nothing is read";
 }

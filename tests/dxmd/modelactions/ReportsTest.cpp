@@ -46,8 +46,7 @@ TEST(ExternalizeReport, PathIsThatOfTheLastFileAmongTheEntrysOwnChildren) {
 
 TEST(ExternalizeReport, NullElementsAreIgnoredAndNullEntriesRefused) {
   DXExternalizeReportHelper report;
-  TRNIDOM_Element null;
-  report.Take(null);
+  take(report, TRNIDOM_Element());
   expectAssert("TRN_ASSERT(pEntry);", "DXExternalizeReportHelper", [&] { report.AddEntry(nullptr); });
   expectXml("<externalizeReport/>", made(report));
 }
@@ -69,8 +68,7 @@ TEST(PackagesReport, WritesAndAddsWhatItReadsToWhatItHolds) {
 TEST(PackagesReport, ReadsPackagesAtAnyDepthAndIgnoresANullElement) {
   const auto report =
       taken<DXPackagesReportHelper>("<r><x><package defaultName='a'><package cmSearchPath='b'/></package></x></r>");
-  TRNIDOM_Element null;
-  report->Take(null);
+  take(*report, TRNIDOM_Element());
   EXPECT_EQ("a= =b ", packagesOf(*report));
   expectXml("<packages/>", made(DXPackagesReportHelper()));
 }

@@ -22,11 +22,8 @@ void expectNotOneResult(const std::string& response) {
 }  // namespace
 
 TEST(VqeCancelQueryHelper, NamesTheDefaultRequestUnderIdentifiersOfItsOwn) {
-  const VqeCancelQueryHelper command;
-  expectXml(R"(<command xmlns="urn:dxmd:query-service:api:1" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance">)"
-            R"(<cancel><requestID value="DXRequest"/></cancel>)"
-            R"(<commandID value="DXCancelCommand"/><requestID value="DXCancelRequest"/></command>)",
-            made(command));
+  expectXml(inEnvelope(R"(<cancel><requestID value="DXRequest"/></cancel>)", "DXCancelCommand", "DXCancelRequest"),
+            made(VqeCancelQueryHelper()));
 }
 
 TEST(VqeExpandParameterHelper, WritesTheExpressionAlsoWhenEmpty) {
@@ -59,7 +56,6 @@ TEST(VqeExpandParameterHelper, ResponseOutlivesItsDocumentHandleAndIsReplacedByT
     response = TRNIDOM_Element();
     EXPECT_EQ(text, command.GetExpandedQuery());
   }
-  TRNIDOM_Element none;
-  command.Take(none);
+  take(command, TRNIDOM_Element());
   EXPECT_EQ("", command.GetExpandedQuery());
 }

@@ -36,8 +36,7 @@ TEST(VqeGetParametersHelper, ReadsParametersAtAnyDepthIntoTheListItHas) {
       R"(<x><y><parameter name="a" value="1"><parameter name="in" value="2"/></parameter></y><parameter/></x>)");
   EXPECT_EQ((Parameters{{"a", "1"}, {"in", "2"}, {"", ""}}), helper->GetParameters());
 
-  TRNIDOM_Element more = parsed(R"(<parameters><parameter value="3"/></parameters>)");
-  helper->Take(more);
+  take(*helper, R"(<parameters><parameter value="3"/></parameters>)");
   EXPECT_EQ((Parameters{{"a", "1"}, {"in", "2"}, {"", ""}, {"", "3"}}), helper->GetParameters());
 }
 

@@ -87,13 +87,11 @@ TEST(VqeRefineObjectsHelper, RefusesAnObjectWithoutIdentifier) {
 
 TEST(VqeRefineObjectsHelper, RefusesAResponseThatIsNullOrHasItsFirstObjectElsewhere) {
   VqeRefineObjectsHelper command("m");
-  TRNIDOM_Element none;
-  expectAssert("TRN_ASSERT(!domResponse.isNull());", kFile, [&] { command.Take(none); });
-  TRNIDOM_Element elsewhere = parsed("<response><x><expression>a</expression></x></response>");
+  expectAssert("TRN_ASSERT(!domResponse.isNull());", kFile, [&] { take(command, TRNIDOM_Element()); });
   expectAssert(
       "TRN_ASSERT(m_currentResponseObject.isNull() || m_currentResponseObject.getParentNode().getNodeName() == "
       "dxmd_actionhelper_resources_response_str);",
-      kFile, [&] { command.Take(elsewhere); });
+      kFile, [&] { take(command, "<response><x><expression>a</expression></x></response>"); });
 }
 
 TEST(VqeRefineObjectsHelper, AnotherResponseRestartsTheWalkAndTheEndLeavesTheCallersText) {
@@ -101,9 +99,8 @@ TEST(VqeRefineObjectsHelper, AnotherResponseRestartsTheWalkAndTheEndLeavesTheCal
   I18NString object("untouched");
   EXPECT_FALSE(command.getResponseObject(object));
   EXPECT_EQ("untouched", object);
-  TRNIDOM_Element response = parsed("<response><expression>a</expression><expression>b</expression></response>");
   for (int time = 0; time < 2; ++time) {
-    command.Take(response);
+    take(command, "<response><expression>a</expression><expression>b</expression></response>");
     EXPECT_TRUE(command.getResponseObject(object));
     EXPECT_EQ("a", object);
   }

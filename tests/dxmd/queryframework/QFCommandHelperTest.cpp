@@ -11,10 +11,6 @@ using namespace dxmd_test;
 
 namespace {
 
-const std::string kEnvelope =
-    R"(<command xmlns="urn:dxmd:query-service:api:1" xmlns:xsi="http://www.w3.org/2001/XMLSchema-instance">)";
-const std::string kIdentifiers = R"(<commandID value="DXCommand"/><requestID value="DXRequest"/></command>)";
-
 // The smallest modelling command.
 class ProbeCommand : public QFDXCommandHelper {
  public:
@@ -38,18 +34,14 @@ std::string withConnection(const std::string& command, const std::string& connec
 
 }  // namespace
 
-TEST(QFCommandHelper, EnvelopeHoldsCommandThenIdentifiers) {
-  expectXml(kEnvelope + "<closeConnections/>" + kIdentifiers, made(QFCloseConnectionsCommandHelper()));
-}
-
-TEST(QFCommandHelper, PropertiesReplaceOneIdentifierEach) {
+TEST(QFCommandHelper, EnvelopeHoldsCommandThenIdentifiersThatPropertiesReplaceOneByOne) {
   QFCloseConnectionsCommandHelper command;
+  expectXml(inEnvelope("<closeConnections/>", "DXCommand", "DXRequest"), made(command));
   command.SetProperty(QFCommandHelper::kPropertyRequestID, "r1");
   command.SetProperty(static_cast<QFCommandHelper::EProperty>(3), "ignored");
-  expectXml(kEnvelope + R"(<closeConnections/><commandID value="DXCommand"/><requestID value="r1"/></command>)",
-            made(command));
+  expectXml(inEnvelope("<closeConnections/>", "DXCommand", "r1"), made(command));
   command.SetProperty(QFCommandHelper::kPropertyCommandID, "");
-  expectXml(kEnvelope + R"(<closeConnections/><commandID value=""/><requestID value="r1"/></command>)", made(command));
+  expectXml(inEnvelope("<closeConnections/>", "", "r1"), made(command));
   EXPECT_EQ("DXCommand", QFCommandHelper::GetDefaultDXCommandID());
   EXPECT_EQ("DXRequest", QFCommandHelper::GetDefaultDXRequestID());
 }
@@ -59,14 +51,12 @@ TEST(QFCommandHelper, ConnectionIsCopiedAtEachMake) {
   {
     TRNIDOM_Element connection = parsed("<connection><dataSource value=\"a\"/></connection>");
     command.SetConnection(connection);
-    expectXml(kEnvelope + R"(<connection><dataSource value="a"/></connection><closeConnections/>)" + kIdentifiers,
-              made(command));
+    expectXml(inEnvelope(R"(<connection><dataSource value="a"/></connection><closeConnections/>)"), made(command));
     connection.setAttribute("changed", "1");
   }
   // The command's handle keeps the connection alive and sees its later changes.
-  expectXml(
-      kEnvelope + R"(<connection changed="1"><dataSource value="a"/></connection><closeConnections/>)" + kIdentifiers,
-      made(command));
+  expectXml(inEnvelope(R"(<connection changed="1"><dataSource value="a"/></connection><closeConnections/>)"),
+            made(command));
 }
 
 TEST(QFCommandHelper, ModelPathAndReportNameAreWrittenOnce) {
@@ -80,20 +70,17 @@ TEST(QFCommandHelper, ModelPathAndReportNameAreWrittenOnce) {
 }
 
 TEST(QFDXCommandHelper, WrapsCommandInDxCommand) {
-  ProbeCommand command("/model");
-  expectXml(kEnvelope + "<dxCommand><source><model>/model</model></source><probe/></dxCommand>" + kIdentifiers,
-            made(command));
+  ProbeCommand command("m");
+  expectXml(inDXEnvelope("<probe/>"), made(command));
 
   const I18NLocale locale("de-ch");
   command.SetQueryLocale(&locale);
   command.AddQueryFeedback(QFExecuteCommandHelper::kQueryFeedbackColumnList);
   command.AddQueryFeedback(static_cast<QFExecuteCommandHelper::EQueryFeedback>(7));
   command.AddQueryFeedback(QFExecuteCommandHelper::kQueryFeedbackColumnList);
-  expectXml(kEnvelope +
-                R"(<dxCommand queryLocale="de-ch"><source><model>/model</model></source><probe/><queryFeedback>)"
-                R"(<property name="columnList"/><property name="unknown"/><property name="columnList"/>)"
-                R"(</queryFeedback></dxCommand>)" +
-                kIdentifiers,
+  expectXml(inEnvelope(R"(<dxCommand queryLocale="de-ch"><source><model>m</model></source><probe/><queryFeedback>)"
+                       R"(<property name="columnList"/><property name="unknown"/><property name="columnList"/>)"
+                       R"(</queryFeedback></dxCommand>)"),
             made(command));
 
   command.SetQueryLocale(nullptr);
@@ -101,13 +88,10 @@ TEST(QFDXCommandHelper, WrapsCommandInDxCommand) {
   EXPECT_NE(std::string::npos, made(ProbeCommand("")).find("<source><model/></source>"));
 }
 
-TEST(AddConnection, BecomesFirstChildWhereThereWasNone) {
+TEST(AddConnection, BecomesFirstChildOrReplacesTheOldOne) {
   EXPECT_EQ("<command><connection a=\"1\"/><cancel/></command>",
             withConnection("<command><cancel/></command>", "<connection a=\"1\"/>"));
   EXPECT_EQ("<command><connection/></command>", withConnection("<command/>", "<connection/>"));
-}
-
-TEST(AddConnection, ReplacesTheOldOne) {
   EXPECT_EQ(
       "<command><connection new=\"1\"/><cancel/></command>",
       withConnection("<command><connection><connection/></connection><cancel/></command>", "<connection new=\"1\"/>"));

@@ -1,8 +1,6 @@
 #include <dxmd/queryframework/QFValidateCommandHelper.h>
 
-#include <string>
 #include <type_traits>
-#include <vector>
 
 #include "TestSupport.h"
 
@@ -49,10 +47,8 @@ TEST(QFValidateCommandHelper, ANodeThatStandsOnADocumentConvertsAndHoldsNoMessag
 }
 
 TEST(QFValidateCommandHelper, CopiesTheChildrenOfTheFirstChildOnly) {
-  TRNIDOM_Element element = parsed("<e><first a=\"1\"><x>1</x> t<!--c--><y/></first><second><z/></second></e>");
-  TRNIDOM_Element command = element;
-  QFValidateCommandHelper().Make(command);
-  expectXml(inEnvelope("<validate><x>1</x> t<!--c--><y/></validate>"), command);
+  const TRNIDOM_Element element = parsed("<e><first a=\"1\"><x>1</x> t<!--c--><y/></first><second><z/></second></e>");
+  expectXml(inEnvelope("<validate><x>1</x> t<!--c--><y/></validate>"), validated(element));
   expectXml("<e><first a=\"1\"><x>1</x> t<!--c--><y/></first><second><z/></second></e>", element);
 }
 
@@ -84,9 +80,7 @@ TEST(QFValidateCommandHelper, EachMessageJudgesByTheOneBeforeOnly) {
   EXPECT_EQ(3, severityAfter({"fatal", "information"}));
   EXPECT_EQ(3, severityAfter({"warning", "information"}));
   EXPECT_EQ(2, severityAfter({"error", "information", "warning"}));
-}
-
-TEST(QFValidateCommandHelper, OtherSeveritiesChangeNothing) {
+  // Other severities change nothing.
   EXPECT_EQ(5, severityAfter({"", "Fatal", "info"}));
   EXPECT_EQ(1, severityAfter({"error", "", "ERROR"}));
 }

@@ -50,8 +50,7 @@ TEST(QsDataSourceFaultHelper, FirstChildGivesTheTextWhateverItIs) {
 
 TEST(QsDataSourceFaultHelper, TextsThatTheNextFaultLacksStay) {
   const auto helper = taken<QsDataSourceFaultHelper>(kFault);
-  TRNIDOM_Element next = parsed("<fault><faultcode/><faultstring>new</faultstring><faultDataSource/></fault>");
-  helper->Take(next);
+  take(*helper, "<fault><faultcode/><faultstring>new</faultstring><faultDataSource/></fault>");
   EXPECT_EQ("c", helper->GetFaultCode());
   EXPECT_EQ("new", helper->GetFaultString());
   EXPECT_EQ("", helper->GetFaultDataSourceName()) << "the element is there, its value is not";
@@ -81,8 +80,7 @@ TEST(QsDataSourceFaultHelper, AnotherFaultForgetsTheConnectionAndSignonOfTheLast
   const auto helper = taken<QsDataSourceFaultHelper>(kFault);
   EXPECT_NE(nullptr, helper->GetFaultConnection());
   EXPECT_NE(nullptr, helper->GetFaultSignon());
-  TRNIDOM_Element none;
-  helper->Take(none);
+  take(*helper, TRNIDOM_Element());
   EXPECT_EQ(nullptr, helper->GetFaultConnection());
   EXPECT_EQ(nullptr, helper->GetFaultSignon());
   EXPECT_EQ("c", helper->GetFaultCode());

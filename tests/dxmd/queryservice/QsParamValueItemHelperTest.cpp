@@ -76,14 +76,14 @@ TEST(QsParamValueItemHelper, TypesHaveTheirTexts) {
 }
 
 TEST(QsParamValueItemHelper, NullIsRefusedByEveryKindAndChangesNothing) {
-  TRNIDOM_Element none;
   Simple simple(0, "kept");
   Range range;
   Hierarchy hierarchy;
   QsParamValueItemNullHelper null;
   for (QsParamValueItemHelper* item :
        std::initializer_list<QsParamValueItemHelper*>{&simple, &range, &hierarchy, &null})
-    expectAssert("TRN_ASSERT(!elmValueItem.isNull());", "QsParamValueItemHelper", [&] { item->Take(none); });
+    expectAssert("TRN_ASSERT(!elmValueItem.isNull());", "QsParamValueItemHelper",
+                 [&] { take(*item, TRNIDOM_Element()); });
   EXPECT_EQ("kept exclusive", bound(&simple));
 }
 
@@ -109,12 +109,10 @@ TEST(QsParamValueItemSimpleHelper, WritesUseUnlessEmptyAndNeverDisplay) {
 
 TEST(QsParamValueItemSimpleHelper, ReadsUseAndDisplayAndKeepsWhatIsMissing) {
   Simple item(0, "old");
-  TRNIDOM_Element first = parsed("<item><display>d</display><use>u</use></item>");
-  item.Take(first);
+  take(item, "<item><display>d</display><use>u</use></item>");
   EXPECT_EQ("u inclusive", bound(&item));
   EXPECT_EQ("d", item.GetDisplay());
-  TRNIDOM_Element second = parsed("<item><inclusive>false</inclusive><use/></item>");
-  item.Take(second);
+  take(item, "<item><inclusive>false</inclusive><use/></item>");
   EXPECT_EQ("u exclusive", bound(&item));
   EXPECT_EQ("d", item.GetDisplay());
 }
@@ -170,8 +168,7 @@ TEST(QsParamValueItemRangeHelper, BoundsGoByEitherNameThePrefixedFirst) {
 TEST(QsParamValueItemRangeHelper, BoundsOnceReadOrSetOutliveAnotherItem) {
   const auto range = taken<Range>("<item><bus:start><use>1</use></bus:start><bus:end><use>2</use></bus:end></item>");
   Simple* start = range->GetStart();
-  TRNIDOM_Element next = parsed("<item><bus:start><use>3</use></bus:start><bus:end><use>4</use></bus:end></item>");
-  range->Take(next);
+  take(*range, "<item><bus:start><use>3</use></bus:start><bus:end><use>4</use></bus:end></item>");
   EXPECT_EQ(start, range->GetStart());
   EXPECT_EQ("1 inclusive", bound(start));
   EXPECT_EQ("4 inclusive", bound(range->GetEnd()));

@@ -78,8 +78,7 @@ TEST(QsParamValueItemHierarchyHelper, OnlyItemsDirectlyInTheFirstSubNodesCount) 
 TEST(QsParamValueItemHierarchyHelper, SubNodesOnceReadOrAddedStay) {
   const auto node = taken<Hierarchy>(item("root", item("a", "")));
   Hierarchy* first = node->GetSubNodes().front();
-  TRNIDOM_Element next = parsed(item("next", item("b", "") + item("c", "")));
-  node->Take(next);
+  take(*node, item("next", item("b", "") + item("c", "")));
   EXPECT_EQ(std::vector<Hierarchy*>{first}, node->GetSubNodes());
   EXPECT_EQ("next", node->GetValue()->GetUse());
 
