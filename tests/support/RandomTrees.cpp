@@ -5,6 +5,7 @@
 #include <exception>
 #include <iostream>
 #include <random>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <trn/TRNAssertError.h>
@@ -20,10 +21,29 @@ namespace dxmd_test {
 
 namespace {
 
+constexpr int kTrees = 3000;
+
+/// What random trees are made of.
+struct Parts {
+  std::vector<TRNIDOM_Element> elements;
+  std::vector<I18NString> texts;
+};
+
+Parts partsOf(const TRNIDOM_Element& example) {
+  Parts parts{{example, example.getOwnerDocument().createElement("x")}, {"a"}};
+  for (const TRNIDOM_Node& element : example.getElementsByTagName("*")) parts.elements.emplace_back(element);
+  for (const TRNIDOM_Element& element : parts.elements) {
+    for (const TRNIDOM_Node& attribute : element.getAttributes()) parts.texts.push_back(attribute.getNodeValue());
+    for (const TRNIDOM_Node& child : element.getChildNodes())
+      if (child.getNodeType() != TRNIDOM_Node::ELEMENT_NODE) parts.texts.push_back(child.getNodeValue());
+  }
+  return parts;
+}
+
 class RandomTree {
  public:
-  RandomTree(const TreeWords& words, std::mt19937& random)
-      : m_words(words), m_random(random), m_document(newDocument()), m_root(newElement()) {
+  RandomTree(const Parts& parts, std::mt19937& random)
+      : m_parts(parts), m_random(random), m_document(newDocument()), m_root(newElement()) {
     if (oneIn(2)) m_document.appendChild(m_root);
     std::vector<TRNIDOM_Node> elements{m_root};
     for (std::size_t left = below(40); left > 0; --left) {
@@ -47,13 +67,14 @@ class RandomTree {
   std::size_t below(std::size_t end) { return std::uniform_int_distribution<std::size_t>(0, end - 1)(m_random); }
   bool oneIn(std::size_t count) { return below(count) == 0; }
 
-  const std::string& oneOf(const std::vector<std::string>& words) { return words[below(words.size())]; }
-  I18NString text() { return m_words.texts.empty() || oneIn(8) ? I18NString() : oneOf(m_words.texts).c_str(); }
+  const TRNIDOM_Element& anyElement() { return m_parts.elements[below(m_parts.elements.size())]; }
+  I18NString text() { return oneIn(8) ? I18NString() : m_parts.texts[below(m_parts.texts.size())]; }
 
   TRNIDOM_Node newElement() {
-    TRNIDOM_Element element = m_document.createElement(oneOf(m_words.elements).c_str());
-    for (std::size_t left = m_words.attributes.empty() ? 0 : below(3); left > 0; --left)
-      element.setAttribute(oneOf(m_words.attributes).c_str(), text());
+    const TRNIDOM_Element& example = anyElement();
+    TRNIDOM_Element element = m_document.createElement(example.getNodeName());
+    for (const TRNIDOM_Node& attribute : (oneIn(4) ? anyElement() : example).getAttributes())
+      if (!oneIn(8)) element.setAttribute(attribute.getNodeName(), oneIn(4) ? text() : attribute.getNodeValue());
     return element;
   }
 
@@ -71,29 +92,13 @@ class RandomTree {
     }
   }
 
-  const TreeWords& m_words;
+  const Parts& m_parts;
   std::mt19937& m_random;
   TRNIDOM_Document m_document;
   TRNIDOM_Node m_root;
 };
 
-void collectWords(const TRNIDOM_Node& node, TreeWords& words) {
-  if (node.getNodeType() != TRNIDOM_Node::ELEMENT_NODE) return words.texts.push_back(node.getNodeValue().toUtf8());
-  words.elements.push_back(node.getNodeName().toUtf8());
-  for (const TRNIDOM_Node& attribute : node.getAttributes()) {
-    words.attributes.push_back(attribute.getNodeName().toUtf8());
-    words.texts.push_back(attribute.getNodeValue().toUtf8());
-  }
-  for (const TRNIDOM_Node& child : node.getChildNodes()) collectWords(child, words);
-}
-
 }  // namespace
-
-TreeWords wordsOf(const TRNIDOM_Element& example) {
-  TreeWords words{{"x"}, {}, {"a"}};
-  collectWords(example, words);
-  return words;
-}
 
 unsigned printedSeed() {
   const char* fixed = std::getenv("DXMD_TEST_SEED");
@@ -103,11 +108,12 @@ unsigned printedSeed() {
   return seed;
 }
 
-void feedRandomTrees(const TreeWords& words, const std::function<void(TRNIDOM_Element&)>& reader, int trees) {
+void feedRandomTrees(const TRNIDOM_Element& example, const std::function<void(TRNIDOM_Element&)>& reader) {
+  const Parts parts = partsOf(example);
   const unsigned seed = printedSeed();
   std::mt19937 random(seed);
-  for (int number = 0; number < trees; ++number) {
-    RandomTree tree(words, random);
+  for (int number = 0; number < kTrees; ++number) {
+    RandomTree tree(parts, random);
     TRNIDOM_Element handle = tree.handle();
     try {
       reader(handle);

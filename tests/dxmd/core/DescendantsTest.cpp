@@ -22,7 +22,7 @@ void expectSame(const TRNIDOM_NodeList& expected, const Descendants::Range& rang
 }  // namespace
 
 TEST(Descendants, AreThoseThatASearchBelowEachElementFinds) {
-  feedRandomTrees({{"a", "b", "c", "x"}, {}, {"text"}}, [](TRNIDOM_Element& tree) {
+  feedRandomTrees(parsed("<a><b/><c>text</c></a>"), [](TRNIDOM_Element& tree) {
     const Descendants all(tree, {kNames[0], kNames[1], kNames[2]});
     for (std::size_t name = 0; name < 3; ++name) {
       const Descendants::Range found = all.below(all.root(), name);

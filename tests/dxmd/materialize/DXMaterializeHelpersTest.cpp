@@ -4,7 +4,6 @@
 #include <string>
 #include <vector>
 
-#include "RandomTrees.h"
 #include "TestSupport.h"
 
 using namespace dxmd_test;
@@ -141,8 +140,7 @@ TEST(DXMaterializeRequestHelper, ParametersAreReadFromTheReceivedElementOnly) {
   expectXml("<materializeRequest><tasks/><targetDataSource/></materializeRequest>", made(*request));
   request->AddParameter(Request::kParamTableName, "added");
   EXPECT_EQ("no, untouched", parameter(*request, Request::kParamTableName));
-  TRNIDOM_Element again = parsed(received);
-  request->Take(again);
+  take(*request, received);
   EXPECT_EQ("no, untouched", parameter(*request, Request::kParamTableName));
   Request empty;
   EXPECT_EQ("no, untouched", parameter(empty, Request::kParamTableName));
@@ -173,26 +171,6 @@ TEST(DXMaterializeResponseHelper, AnswersAreFoundUnderTheNamesOfTasks) {
 
 TEST(DXMaterializeResponseHelper, WritesAnEmptyRootWhateverItTook) {
   expectXml("<materializeResponse/>", made(*taken<DXMaterializeResponseHelper>("<r><x/></r>")));
-}
-
-TEST(DXMaterializeHelpers, NoTreeCrashesTheReaders) {
-  const TreeWords words{{"task", "targetDataSource", "targetDataSource", "username", "password", "type", "param",
-                         "resultSet", "genLoadDataFromFile", "response"},
-                        {"name", "value", "type"},
-                        {"loadDataFromFile", "tableName", "text"}};
-  feedRandomTrees(words, [](TRNIDOM_Element& element) {
-    Request request;
-    request.Take(element);
-    request.GetTasks();
-    fields(request);
-    parameter(request, Request::kParamTableName);
-    request.GetResultSet();
-    madeElement(request);
-    DXMaterializeResponseHelper response;
-    response.Take(element);
-    I18NString text;
-    response.GetResponse(Request::kTaskGenLoadDataFromFile, text);
-  });
 }
 
 TEST(DXMaterializeRequestHelper, TasksNestedAHundredThousandDeepAreRead) {

@@ -48,7 +48,7 @@ TEST(VqeGetJoinPathsHelper, PathsAfterNestedOnesAreNotLost) {
 }
 
 TEST(VqeGetJoinPathsHelper, JoinsAreThoseOfEachPathWhereverTheyStand) {
-  feedRandomTrees({{"response", "joinPath", "join", "x"}, {}, {"a", "b"}}, [](TRNIDOM_Element& tree) {
+  feedRandomTrees(parsed("<response><joinPath/><join>b</join></response>"), [](TRNIDOM_Element& tree) {
     Joins expected;
     for (const TRNIDOM_Element path : tree.getElementsByTagName("joinPath"))
       for (const TRNIDOM_Node join : path.getElementsByTagName("join"))

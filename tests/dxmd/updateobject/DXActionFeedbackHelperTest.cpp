@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "RandomTrees.h"
 #include "TestSupport.h"
 
 using namespace dxmd_test;
@@ -74,15 +73,4 @@ TEST(DXActionFeedbackHelper, NestsToAnyDepth) {
   I18NString text;
   received.Render(text);
   EXPECT_EQ(std::size_t{kDepth} * 12, text.length());
-}
-
-TEST(DXActionFeedbackHelper, NoTreeCrashesTheReader) {
-  const TreeWords words{{"feedback", "entry", "other"}, {"class", "name"}, {"error", "warning", "text"}};
-  feedRandomTrees(words, [](TRNIDOM_Element& element) {
-    DXActionFeedbackHelper feedback;
-    feedback.Take(element);
-    I18NString text;
-    feedback.Render(text);
-    Entry::Render(element, "\t", text);
-  });
 }
