@@ -1,9 +1,6 @@
 #include <dxmd/materialize/DXMaterializeRequestHelper.h>
 #include <dxmd/materialize/DXMaterializeResponseHelper.h>
 
-#include <string>
-#include <vector>
-
 #include "TestSupport.h"
 
 using namespace dxmd_test;
@@ -20,6 +17,12 @@ std::string fields(Request& request) {
                                  source.userName, source.password, source.ssoTicket})
     all += (text == nullptr ? "-" : text->toUtf8()) + "|";
   return all;
+}
+
+void setUser(Request& request, I18NString name) {
+  Request::TargetDataSource source;
+  source.userName = &name;
+  request.SetTargetDataSource(source);
 }
 
 std::string parameter(Request& request, Request::EParameters parameter) {
@@ -47,17 +50,12 @@ TEST(DXMaterializeRequestHelper, WritesTasksDataSourceParametersAndResultSet) {
   request.AddParameter(Request::kParamTableName, "replaced");
   request.AddParameter(Request::kParamTableName, "t");
   request.SetResultSet(parsed("<set><row/></set>"));
-  const std::string expected =
-      R"(<materializeRequest><tasks><task>loadDataFromFile</task><task>genLoadDataFromFile</task></tasks>)"
-      R"(<targetDataSource type="T"><connectionString>C</connectionString><database>D</database>)"
-      R"(<username>U</username><password/><SSOTicket>S</SSOTicket></targetDataSource>)"
-      R"(<parameters><param name="tableName" value="t"/><param name="objectID" value="o"/></parameters>)"
-      R"(<resultSet><set><row/></set></resultSet></materializeRequest>)";
-  expectXml(expected, made(request));
-  expectXml(expected, made(request));
-}
-
-TEST(DXMaterializeRequestHelper, EmptyRequestStillHasTasksAndDataSource) {
+  expectXml(R"(<materializeRequest><tasks><task>loadDataFromFile</task><task>genLoadDataFromFile</task></tasks>)"
+            R"(<targetDataSource type="T"><connectionString>C</connectionString><database>D</database>)"
+            R"(<username>U</username><password/><SSOTicket>S</SSOTicket></targetDataSource>)"
+            R"(<parameters><param name="tableName" value="t"/><param name="objectID" value="o"/></parameters>)"
+            R"(<resultSet><set><row/></set></resultSet></materializeRequest>)",
+            made(request));
   expectXml("<materializeRequest><tasks/><targetDataSource/></materializeRequest>", made(Request()));
 }
 
@@ -92,19 +90,11 @@ TEST(DXMaterializeRequestHelper, GivenFieldsReplaceAndNullOnesKeep) {
   Request request;
   EXPECT_EQ("-|-|-|-|-|-|-|", fields(request));
   {
-    I18NString password("secret"), user("old");
-    Request::TargetDataSource source;
-    source.password = &password;
-    source.userName = &user;
-    request.SetTargetDataSource(source);
-    I18NString newUser("new");
-    source = Request::TargetDataSource();
-    source.userName = &newUser;
-    request.SetTargetDataSource(source);
+    I18NString user("old"), password("secret");
+    request.SetTargetDataSource({nullptr, nullptr, nullptr, nullptr, &user, &password, nullptr});
   }
+  setUser(request, "new");
   EXPECT_EQ("-|-|-|-|new|secret|-|", fields(request));
-  I18NString* password = request.GetTargetDataSourceInfo().password;
-  EXPECT_EQ("secret", *password);
   request.SetTargetDataSource(request.GetTargetDataSourceInfo());
   EXPECT_EQ("-|-|-|-|new|secret|-|", fields(request));
 }
@@ -122,10 +112,7 @@ TEST(DXMaterializeRequestHelper, ReadsTheFirstDataSourceWhileNoneIsSet) {
             made(*request));
 
   const auto filled = taken<Request>(received);
-  I18NString user("U");
-  Request::TargetDataSource source;
-  source.userName = &user;
-  filled->SetTargetDataSource(source);
+  setUser(*filled, "U");
   EXPECT_EQ("-|-|-|-|U|-|-|", fields(*filled));
   EXPECT_EQ("-|-|-|-|-|-|-|", fields(*taken<Request>("<r/>")));
 }
@@ -155,7 +142,7 @@ TEST(DXMaterializeRequestHelper, ReadsTheElementThatTheFirstResultSetBeginsWith)
   EXPECT_EQ("<given/>", xmlOf(request->GetResultSet()));
 }
 
-TEST(DXMaterializeResponseHelper, AnswersAreFoundUnderTheNamesOfTasks) {
+TEST(DXMaterializeResponseHelper, AnswersAreFoundUnderTheNamesOfTasksAndNeverWritten) {
   const std::string xml =
       "<r><x><genLoadDataFromFile><y><response>generated</response></y></genLoadDataFromFile></x>"
       "<genLoadDataFromFile><response>second</response></genLoadDataFromFile>"
@@ -167,10 +154,7 @@ TEST(DXMaterializeResponseHelper, AnswersAreFoundUnderTheNamesOfTasks) {
                                     Request::kTaskLoadDataFromFile));
   EXPECT_EQ("no, untouched",
             answer("<r><loadDataFromFile/><response>outside</response></r>", Request::kTaskLoadDataFromFile));
-}
-
-TEST(DXMaterializeResponseHelper, WritesAnEmptyRootWhateverItTook) {
-  expectXml("<materializeResponse/>", made(*taken<DXMaterializeResponseHelper>("<r><x/></r>")));
+  expectXml("<materializeResponse/>", made(*taken<DXMaterializeResponseHelper>(xml)));
 }
 
 TEST(DXMaterializeRequestHelper, TasksNestedAHundredThousandDeepAreRead) {
@@ -183,8 +167,4 @@ TEST(DXMaterializeRequestHelper, TasksNestedAHundredThousandDeepAreRead) {
   EXPECT_EQ(Request::kTaskUnknown, request.GetTasks().front());
   EXPECT_EQ(Request::kTaskLoadDataFromFile, request.GetTasks().back());
   EXPECT_EQ("-|-|-|-|-|-|-|", fields(request));
-  DXMaterializeResponseHelper response;
-  response.Take(root);
-  I18NString text;
-  EXPECT_FALSE(response.GetResponse(Request::kTaskLoadDataFromFile, text));
 }

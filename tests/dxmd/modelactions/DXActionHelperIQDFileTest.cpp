@@ -6,8 +6,6 @@ using namespace dxmd_test;
 
 namespace {
 
-const char* const kFile = "DXActionHelperIQDFile";
-
 using Lines = std::vector<I18NString>;
 
 }  // namespace
@@ -40,10 +38,8 @@ TEST(IQDFile, EqualLinesBecomeOneWhereTheFirstStood) {
 TEST(IQDFile, ReadingAddsLinesOfAnyDepthToThoseHeld) {
   DXActionHelperIQDFile file;
   file.addContentLine("held");
-  TRNIDOM_Element element =
-      parsed("<file><line>no</line><contents><line>1</line><x><line>2<line>3</line></line></x></contents></file>");
-  file.Take(element);
-  file.Take(element);
+  for (int time = 0; time < 2; ++time)
+    take(file, "<file><line>no</line><contents><line>1</line><x><line>2<line>3</line></line></x></contents></file>");
   EXPECT_EQ((Lines{"held", "1", "2", "3", "1", "2", "3"}), file.getContents());
 }
 
@@ -64,6 +60,6 @@ TEST(IQDFile, WithoutLinesItFailsAfterThePathIsWritten) {
   DXActionHelperIQDFile file;
   file.setFilePath("p");
   TRNIDOM_Element element;
-  expectAssert("TRN_ASSERT(false);", kFile, [&] { file.Make(element); });
+  expectAssert("TRN_ASSERT(false);", "DXActionHelperIQDFile", [&] { file.Make(element); });
   expectXml("<file><filePath>p</filePath></file>", element);
 }

@@ -1,7 +1,6 @@
 #include <dxmd/modelactions/DXActionHelperImportConfig.h>
 
 #include <trn/TRNAssertError.h>
-#include <trnidom/TRNIDOM_Node.h>
 
 #include "TestSupport.h"
 
@@ -45,7 +44,7 @@ TEST(ImportConfig, AnswersFromTheElementAsItIsNow) {
   EXPECT_EQ("direct", answer);
 }
 
-TEST(ImportConfig, OfSeveralConnectionsTheFirstAtAnyDepthCounts) {
+TEST(ImportConfig, FirstConnectionAtAnyDepthCountsWithItsProviderIfAny) {
   const auto config = taken<Config>(
       "<source><x> <connection provider='p1'><item name='a' nameInRequest='A'/><y><item name='b'/></y>"
       "<connection provider='inner'><item name='c' nameInRequest='C'/></connection></connection></x>"
@@ -54,6 +53,10 @@ TEST(ImportConfig, OfSeveralConnectionsTheFirstAtAnyDepthCounts) {
   EXPECT_TRUE(config->getConnectionProvider(provider));
   EXPECT_EQ("p1", provider);
   EXPECT_EQ("a=A;b=;c=C;", connectionItems(*config));
+  EXPECT_FALSE(taken<Config>("<source/>")->getConnectionProvider(provider));
+  EXPECT_EQ("p1", provider) << "without connection it stays as it was";
+  EXPECT_FALSE(taken<Config>("<source><connection/></source>")->getConnectionProvider(provider));
+  EXPECT_EQ("", provider);
 }
 
 TEST(ImportConfig, CapabilitiesAreAddedToTheCallers) {
@@ -61,16 +64,6 @@ TEST(ImportConfig, CapabilitiesAreAddedToTheCallers) {
       "<source><connection><item name='no'/></connection><capabilities>text<item name='sort' value='true'/>"
       "<item value='1'/></capabilities><capabilities><item name='late'/></capabilities></source>");
   EXPECT_EQ("held=;sort=true;=1;", capabilities(*config));
-}
-
-TEST(ImportConfig, WithoutConnectionTheProviderStaysAsItWas) {
-  const auto config = taken<Config>("<source/>");
-  I18NString provider("before");
-  EXPECT_FALSE(config->getConnectionProvider(provider));
-  EXPECT_EQ("before", provider);
-  const auto withoutProvider = taken<Config>("<source><connection/></source>");
-  EXPECT_FALSE(withoutProvider->getConnectionProvider(provider));
-  EXPECT_EQ("", provider);
 }
 
 TEST(ImportConfig, BeforeAnythingWasTakenThereAreNoAnswersAndNothingIsEverWritten) {
@@ -89,11 +82,8 @@ TEST(ImportConfig, TakesOnlyASource) {
       "TRN_ASSERT(!elmSourceConfig.isNull() && elmSourceConfig.getNodeName() == "
       "dxmd_actionhelper_resources_source_str);";
   expectAssert(text, "DXActionHelperImportConfig", [] { taken<Config>("<Source/>"); });
-  expectAssert(text, "DXActionHelperImportConfig", [] {
-    TRNIDOM_Element null;
-    Config().Take(null);
-  });
   const auto config = taken<Config>("<source queryType='q'/>");
+  expectAssert(text, "DXActionHelperImportConfig", [&] { take(*config, TRNIDOM_Element()); });
   EXPECT_THROW(take(*config, "<other/>"), TRNAssertError);
   I18NString answer;
   EXPECT_TRUE(config->getQueryType(answer)) << "what is refused is not remembered";

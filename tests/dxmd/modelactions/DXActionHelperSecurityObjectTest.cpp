@@ -22,45 +22,39 @@ std::string readObject(const std::string& xml) {
   return (object.cmSearchPath + "|" + object.displayPath + "|" + object.type).toUtf8();
 }
 
-std::string textOf(const ViewInfo& view) {
-  std::vector<I18NString> packages;
-  view.getPackageRefs(packages);
-  std::string text = view.getViewRef().toUtf8();
-  for (const I18NString& package : packages) text += "+" + package.toUtf8();
-  return text;
-}
-
 // The next principal with its views, as "path[view+package,...]"; "end" when there is none.
 std::string nextEntry(Spec& spec) {
   std::vector<ViewInfo> views;
   const TRNSmartPointer<SecurityObject> object = spec.getEntry(views);
   std::string text = object.isNull() ? "end" : object->cmSearchPath.toUtf8();
-  for (const ViewInfo& view : views) text += "[" + textOf(view) + "]";
+  for (const ViewInfo& view : views) {
+    std::vector<I18NString> packages;
+    view.getPackageRefs(packages);
+    text += "[" + view.getViewRef().toUtf8();
+    for (const I18NString& package : packages) text += "+" + package.toUtf8();
+    text += "]";
+  }
   return text;
 }
 
 }  // namespace
 
 // A literal 0 is a null pointer too, and so converts to a text.
-static_assert(!std::is_constructible_v<DXActionHelperSecurityObject, const char*, const char*, int>);
-static_assert(!std::is_constructible_v<DXActionHelperSecurityObject, const char*, const char*, long>);
-static_assert(std::is_constructible_v<DXActionHelperSecurityObject, const char*, const char*,
-                                      DXActionHelperSecurityObject::EAccessType>);
-static_assert(std::is_constructible_v<DXActionHelperSecurityObject, const char*, const char*, const char*>);
+template <typename Type>
+constexpr bool isAccessType = std::is_constructible_v<SecurityObject, const char*, const char*, Type>;
+static_assert(!isAccessType<int> && !isAccessType<long>);
+static_assert(isAccessType<SecurityObject::EAccessType> && isAccessType<const char*>);
 
 TEST(SecurityObject, PathsComeFromElementsWhenThereIsASearchPathElement) {
-  const char* const attributes = " cmSearchPath='a' displayPath='d' type='role'";
-  EXPECT_EQ("a|d|role", readObject(std::string("<securityObject") + attributes + "/>"));
+  const auto read = [](const std::string& inside) {
+    return readObject("<securityObject cmSearchPath='a' displayPath='d' type='role'>" + inside + "</securityObject>");
+  };
+  EXPECT_EQ("a|d|role", read(""));
   EXPECT_EQ("a||role",
             readObject("<securityObject cmSearchPath='a' type='role'><displayPath>x</displayPath></securityObject>"));
-  EXPECT_EQ("e||role", readObject(std::string("<securityObject") + attributes +
-                                  "><x><cmSearchPath>e</cmSearchPath></x></securityObject>"));
-  EXPECT_EQ("e|f|role",
-            readObject(std::string("<securityObject") + attributes +
-                       "><cmSearchPath>e</cmSearchPath><x><displayPath>f</displayPath></x></securityObject>"));
-}
-
-TEST(SecurityObject, AnAccessElementIsReadFromAttributesOnly) {
+  EXPECT_EQ("e||role", read("<x><cmSearchPath>e</cmSearchPath></x>"));
+  EXPECT_EQ("e|f|role", read("<cmSearchPath>e</cmSearchPath><x><displayPath>f</displayPath></x>"));
+  // An access element has attributes only.
   EXPECT_EQ("a||", readObject("<access cmSearchPath='a'><cmSearchPath>e</cmSearchPath></access>"));
 }
 

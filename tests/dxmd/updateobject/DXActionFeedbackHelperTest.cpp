@@ -1,7 +1,5 @@
 #include <dxmd/updateobject/DXActionFeedbackHelper.h>
 
-#include <string>
-
 #include "TestSupport.h"
 
 using namespace dxmd_test;
