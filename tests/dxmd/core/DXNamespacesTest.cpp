@@ -1,7 +1,6 @@
 #include <dxmd/core/DXNamespaces.h>
 
 #include <atomic>
-#include <string>
 #include <thread>
 #include <vector>
 
@@ -11,14 +10,6 @@
 
 using namespace dxmd_test;
 
-namespace {
-
-std::string declaredBy(const QFCommandHelper& command) {
-  return madeElement(command).getAttribute("xmlns").toUtf8();
-}
-
-}  // namespace
-
 TEST(DXNamespaces, BeginAsTheLibraryWasBuilt) {
   EXPECT_EQ(DXMD_QUERY_SERVICE_NAMESPACE, builtNamespaces.queryService);
   EXPECT_EQ(DXMD_SERVICE_BUS_NAMESPACE, builtNamespaces.serviceBus);
@@ -26,21 +17,17 @@ TEST(DXNamespaces, BeginAsTheLibraryWasBuilt) {
 
 TEST(DXNamespaces, CommandsDeclareWhatIsSetWhenTheyAreMade) {
   const I18NString before = DXNamespaces::GetQueryService();
-  const QFCloseConnectionsCommandHelper command;
-  EXPECT_EQ(before.toUtf8(), declaredBy(command));
-  DXNamespaces::SetQueryService("urn:other");
-  EXPECT_EQ("urn:other", declaredBy(command));
-  DXNamespaces::SetQueryService(before);
-  EXPECT_EQ(before.toUtf8(), declaredBy(command));
-}
-
-TEST(DXNamespaces, OneDoesNotChangeTheOther) {
-  const I18NString queryService = DXNamespaces::GetQueryService();
   const I18NString bus = DXNamespaces::GetServiceBus();
+  const QFCloseConnectionsCommandHelper command;
+  const auto declared = [&] { return madeElement(command).getAttribute("xmlns"); };
+  EXPECT_EQ(before, declared());
+  DXNamespaces::SetQueryService("urn:other");
   DXNamespaces::SetServiceBus("urn:bus");
+  EXPECT_EQ("urn:other", declared());
   EXPECT_EQ("urn:bus", DXNamespaces::GetServiceBus());
-  EXPECT_EQ(queryService, DXNamespaces::GetQueryService());
+  DXNamespaces::SetQueryService(before);
   DXNamespaces::SetServiceBus(bus);
+  EXPECT_EQ(before, declared());
 }
 
 TEST(DXNamespaces, AreReadWhileOthersSetThemAndStayValid) {

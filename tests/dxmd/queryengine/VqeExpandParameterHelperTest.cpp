@@ -51,9 +51,7 @@ TEST(VqeExpandParameterHelper, ResponseOutlivesItsDocumentHandleAndIsReplacedByT
   VqeExpandParameterHelper command("m");
   EXPECT_EQ("", command.GetExpandedQuery());
   for (const char* text : {"one", "two"}) {
-    TRNIDOM_Element response = parsed("<r><expansionResult>" + std::string(text) + "</expansionResult></r>");
-    command.Take(response);
-    response = TRNIDOM_Element();
+    take(command, "<r><expansionResult>" + std::string(text) + "</expansionResult></r>");
     EXPECT_EQ(text, command.GetExpandedQuery());
   }
   take(command, TRNIDOM_Element());

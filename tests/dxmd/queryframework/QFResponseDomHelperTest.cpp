@@ -107,10 +107,7 @@ TEST(QFResponseDomHelper, RowsAndValuesSkipWhateverElseStandsBetween) {
 TEST(QFResponseDomHelper, KeepsTheDocumentAliveAndReadsTheLatestOneTaken) {
   QFResponseDomHelper response;
   for (const char* value : {"first", "second"}) {
-    TRNIDOM_Element element =
-        parsed(std::string("<r><resultData><row><value v=\"") + value + "\"/></row></resultData></r>");
-    response.Take(element);
-    element = TRNIDOM_Element();
+    take(response, std::string("<r><resultData><row><value v=\"") + value + "\"/></row></resultData></r>");
     EXPECT_EQ((std::vector<Texts>{{value}}), rowsOf(response));
   }
 }

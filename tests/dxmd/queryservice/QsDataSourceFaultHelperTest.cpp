@@ -1,8 +1,5 @@
 #include <dxmd/queryservice/QsDataSourceFaultHelper.h>
 
-#include <utility>
-#include <vector>
-
 #include "TestSupport.h"
 
 using namespace dxmd_test;
@@ -32,13 +29,18 @@ std::string connectionsOf(const DataSourceInfo& info) {
 
 }  // namespace
 
-TEST(QsDataSourceFaultHelper, ReadsTextsAtAnyDepthUpToTheFirstChild) {
+TEST(QsDataSourceFaultHelper, ReadsTextsAtAnyDepthAndKeepsThoseThatTheNextFaultLacks) {
   const auto fault = taken<QsDataSourceFaultHelper>(kFault);
   EXPECT_EQ("c", fault->GetFaultCode());
   EXPECT_EQ("sc", fault->GetFaultSubCode());
   EXPECT_EQ("s", fault->GetFaultString());
   EXPECT_EQ("ss", fault->GetFaultSubString());
   EXPECT_EQ("ds", fault->GetFaultDataSourceName());
+
+  take(*fault, "<fault><faultcode/><faultstring>new</faultstring><faultDataSource/></fault>");
+  EXPECT_EQ("c", fault->GetFaultCode());
+  EXPECT_EQ("new", fault->GetFaultString());
+  EXPECT_EQ("", fault->GetFaultDataSourceName()) << "the element is there, its value is not";
 }
 
 TEST(QsDataSourceFaultHelper, FirstChildGivesTheTextWhateverItIs) {
@@ -46,14 +48,6 @@ TEST(QsDataSourceFaultHelper, FirstChildGivesTheTextWhateverItIs) {
   EXPECT_EQ("", faultCodeOf("<f><faultcode><x>in</x>text</faultcode></f>"));
   EXPECT_EQ("", faultCodeOf("<f><faultcode/><faultcode>second</faultcode></f>"));
   EXPECT_EQ("", faultCodeOf("<faultcode>the fault itself</faultcode>"));
-}
-
-TEST(QsDataSourceFaultHelper, TextsThatTheNextFaultLacksStay) {
-  const auto helper = taken<QsDataSourceFaultHelper>(kFault);
-  take(*helper, "<fault><faultcode/><faultstring>new</faultstring><faultDataSource/></fault>");
-  EXPECT_EQ("c", helper->GetFaultCode());
-  EXPECT_EQ("new", helper->GetFaultString());
-  EXPECT_EQ("", helper->GetFaultDataSourceName()) << "the element is there, its value is not";
 }
 
 TEST(QsDataSourceFaultHelper, ConnectionAndSignonAtFaultAreReadOnceAfterTheDocumentWasDropped) {
@@ -88,14 +82,15 @@ TEST(QsDataSourceFaultHelper, AnotherFaultForgetsTheConnectionAndSignonOfTheLast
   EXPECT_FALSE(helper->GetDataSourceInfo("", info));
 }
 
-TEST(QsDataSourceFaultHelper, ConnectionStringLandsInTheSearchPath) {
-  const auto both = taken<QsDataSourceFaultHelper>(
-      R"(<f><faultConnection><connectionString value="cs"/><searchPath value="sp"/></faultConnection></f>)");
-  EXPECT_EQ("cs", both->GetFaultConnection()->searchPath);
-  EXPECT_EQ("", both->GetFaultConnection()->connectionString);
-  const auto empty = taken<QsDataSourceFaultHelper>(
-      R"(<f><faultConnection><connectionString/><searchPath value="sp"/></faultConnection></f>)");
-  EXPECT_EQ("", empty->GetFaultConnection()->searchPath);
+TEST(QsDataSourceFaultHelper, ConnectionStringLandsInTheSearchPathAlsoWhenItHasNone) {
+  const auto searchPath = [](const std::string& connectionString) {
+    const auto fault = taken<QsDataSourceFaultHelper>("<f><faultConnection>" + connectionString +
+                                                      "<searchPath value='sp'/></faultConnection></f>");
+    EXPECT_EQ("", fault->GetFaultConnection()->connectionString);
+    return fault->GetFaultConnection()->searchPath;
+  };
+  EXPECT_EQ("cs", searchPath("<connectionString value='cs'/>"));
+  EXPECT_EQ("", searchPath("<connectionString/>"));
 }
 
 TEST(QsDataSourceFaultHelper, WhatARecordLacksIsTakenFromTheRecordsInIt) {
@@ -107,7 +102,7 @@ TEST(QsDataSourceFaultHelper, WhatARecordLacksIsTakenFromTheRecordsInIt) {
   EXPECT_EQ("p", info.connections[0]->searchPath);
 }
 
-TEST(QsDataSourceFaultHelper, DescribesTheDataSourceOfThatName) {
+TEST(QsDataSourceFaultHelper, DescribesTheDataSourceOfThatNameInVectorsThatTheRecordOwns) {
   const auto helper = taken<QsDataSourceFaultHelper>(
       R"(<f><dataSource><name value="other"/><type value="t0"/><connection/></dataSource>)"
       R"(<x><dataSource><name value="ds"/><type value="t1"/><connection><name value="c1"/><signon/></connection>)"
@@ -119,8 +114,15 @@ TEST(QsDataSourceFaultHelper, DescribesTheDataSourceOfThatName) {
   EXPECT_EQ("c1;c2;", connectionsOf(info));
   EXPECT_EQ(1U, info.connections[0]->signons.size());
 
-  EXPECT_TRUE(helper->GetDataSourceInfo("ds", info));
-  EXPECT_EQ("c1;c2;c1;c2;", connectionsOf(info)) << "connections accumulate";
+  info.connections[0]->signons.push_back(new QsDataSourceFaultHelper::SignonInfo{"own", ""});
+  DataSourceInfo other;
+  EXPECT_TRUE(helper->GetDataSourceInfo("ds", other));
+  other = std::move(info);
+  const DataSourceInfo last(std::move(other));
+  ConnectionInfo connection;
+  connection = std::move(*last.connections[0]);
+  EXPECT_EQ("c1", connection.name);
+  EXPECT_EQ("own", connection.signons.back()->name);
 }
 
 TEST(QsDataSourceFaultHelper, LastDataSourceDecidesTheResult) {
@@ -132,6 +134,8 @@ TEST(QsDataSourceFaultHelper, LastDataSourceDecidesTheResult) {
   EXPECT_FALSE(helper->GetDataSourceInfo("a", a));
   EXPECT_EQ("a", a.name);
   EXPECT_EQ("1;2;", connectionsOf(a));
+  EXPECT_FALSE(helper->GetDataSourceInfo("a", a));
+  EXPECT_EQ("1;2;1;2;", connectionsOf(a)) << "connections accumulate";
   DataSourceInfo b;
   EXPECT_TRUE(helper->GetDataSourceInfo("b", b));
   DataSourceInfo c;
@@ -154,27 +158,6 @@ TEST(QsDataSourceFaultHelper, UnknownConnectionNameGivesTheLast) {
   }
   EXPECT_EQ(info.connections[1], info.GetConnectionInfo("b"));
   EXPECT_EQ(info.connections[3], info.GetConnectionInfo("unknown"));
-}
-
-TEST(QsDataSourceFaultHelper, RecordsAreVectorsThatTheirOwnerDeletes) {
-  const auto helper = taken<QsDataSourceFaultHelper>(
-      R"(<f><dataSource><name value="d"/><connection><name value="c"/><signon><name value="s"/></signon></connection>)"
-      R"(</dataSource></f>)");
-  DataSourceInfo info;
-  EXPECT_TRUE(helper->GetDataSourceInfo("d", info));
-  std::vector<ConnectionInfo*>& connections = info.connections;
-  EXPECT_EQ("s", connections.front()->signons.at(0)->name);
-  connections.front()->signons.push_back(new QsDataSourceFaultHelper::SignonInfo{"own", ""});
-  DataSourceInfo other;
-  EXPECT_TRUE(helper->GetDataSourceInfo("d", other));
-  other = std::move(info);
-  const DataSourceInfo last(std::move(other));
-  EXPECT_EQ("own", last.connections.front()->signons.back()->name);
-
-  ConnectionInfo connection;
-  connection = std::move(*last.connections.front());
-  EXPECT_EQ("c", connection.name);
-  EXPECT_EQ("own", connection.signons.back()->name);
 }
 
 TEST(QsDataSourceFaultHelper, DataSourcesNestedAHundredThousandDeepAreReadInOneWalk) {

@@ -43,10 +43,8 @@ TEST(GetSimpleNodeValue, FirstChildOfTheFirstNamedChildThatHasOne) {
 
 TEST(GetSimpleNodeValue, NullElementAndOtherNodesHoldNone) {
   I18NString value("kept");
-  TRNIDOM_Element none;
-  TRNIDOM_Element text = parsed("<x>text</x>").getFirstChild();
-  EXPECT_FALSE(GetSimpleNodeValue(none, "n", value));
-  EXPECT_FALSE(GetSimpleNodeValue(text, "n", value));
+  for (TRNIDOM_Element element : {TRNIDOM_Element(), TRNIDOM_Element(parsed("<x>text</x>").getFirstChild())})
+    EXPECT_FALSE(GetSimpleNodeValue(element, "n", value));
   EXPECT_EQ("kept", value);
 }
 
@@ -57,12 +55,11 @@ TEST(QsParamValueItemHelper, TypeTellsWhichItemToMake) {
     return item == nullptr ? 0 : static_cast<int>(item->GetType());
   };
   EXPECT_EQ(1, typeOf("bus:simpleParmValueItem"));
-  EXPECT_EQ(2, typeOf("bus:boundRangeParmValueItem"));
-  EXPECT_EQ(2, typeOf("bus:unboundedStartParmValueItem"));
-  EXPECT_EQ(2, typeOf("bus:unboundedEndParmValueItem"));
+  for (const char* range :
+       {"bus:boundRangeParmValueItem", "bus:unboundedStartParmValueItem", "bus:unboundedEndParmValueItem"})
+    EXPECT_EQ(2, typeOf(range)) << range;
   EXPECT_EQ(3, typeOf("bus:hierarchicalParmValueItem"));
-  EXPECT_EQ(0, typeOf("xsi:nil"));
-  EXPECT_EQ(0, typeOf(""));
+  for (const char* none : {"xsi:nil", ""}) EXPECT_EQ(0, typeOf(none)) << none;
   for (const char* unlisted : {"unknown", "simpleParmValueItem", "bus:simpleparmvalueitem", " "})
     expectAssert("TRN_ASSERT(false);", "QsParamValueItemHelper", [&] { typeOf(unlisted); });
 }
