@@ -23,15 +23,3 @@ TEST(QFUpdateCommandHelper, WritesSubjectsBehindTheModelPathInOrder) {
             made(command));
   expectXml(inEnvelope("<update><updateSet><modelPath/></updateSet></update>"), made(QFUpdateCommandHelper("")));
 }
-
-TEST(QFUpdateCommandHelper, TakesAConnectionBeforeAndAfterItIsMade) {
-  QFUpdateCommandHelper command("m");
-  TRNIDOM_Element connection = parsed(R"(<connection n="1"/>)");
-  command.SetConnection(connection);
-  TRNIDOM_Element element = madeElement(command);
-  EXPECT_EQ(R"(<connection n="1"/>)", xmlOf(element.getFirstChild()));
-  TRNIDOM_Element other = parsed(R"(<connection n="2"><dataSourceType value="x"/></connection>)");
-  QFCommandHelper::AddConnection(element, other);
-  EXPECT_EQ(R"(<connection n="2"><dataSourceType value="x"/></connection>)", xmlOf(element.getFirstChild()));
-  EXPECT_EQ("update", element.getFirstChild().getNextSibling().getNodeName());
-}
