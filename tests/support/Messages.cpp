@@ -73,14 +73,11 @@ Element made(const ActionHandlerBase& helper) {
   return element;
 }
 
-template <typename Helper>
-Element makeNew() {
-  return made(Helper());
-}
-
 bool isDocument(const Element& element) {
   return element.getNodeType() == TRNIDOM_Node::DOCUMENT_NODE;
 }
+
+// By family: how examples are made, and what the getters of a helper that took one give (`answer`).
 
 // queryframework
 
@@ -103,40 +100,33 @@ Element makeExecute() {
   return made(command);
 }
 
-Element makeResponse() {
-  return parse(
-      "<response><queryFeedbackResult><property name='nativeCommandText'>select a from a rather long table</property>"
-      "<property name='connections'>c</property><connection catalog='c' modelDSName='m' schema='s' value='v'/>"
-      "</queryFeedbackResult><columnList><column name='a' sqlName='A' type='int'/><column name='b'/></columnList>"
-      "<resultData><row><value v='1'/><value v='2'/></row><row><value v='a rather long value of a row'/></row>"
-      "</resultData></response>");
-}
+constexpr char kResponse[] =
+    "<response><queryFeedbackResult><property name='nativeCommandText'>select a from a rather long table</property>"
+    "<property name='connections'>c</property><connection catalog='c' modelDSName='m' schema='s' value='v'/>"
+    "</queryFeedbackResult><columnList><column name='a' sqlName='A' type='int'/><column name='b'/></columnList>"
+    "<resultData><row><value v='1'/><value v='2'/></row><row><value v='a rather long value of a row'/></row>"
+    "</resultData></response>";
 
-void readResponse(Element& tree, Answers& answers) {
-  QFResponseDomHelper response;
-  response.Take(tree);
-  answers.ask([&](Line& line) {
-    for (int kind = 0; kind <= 6; ++kind) {
-      I18NString text;
-      line << response.GetQueryFeedback(QFExecuteCommandHelper::EQueryFeedback(kind), text) << text;
-    }
-    std::vector<QFResponseDomHelper::DataSource> sources;
-    response.GetResponseDataSources(sources);
-    for (const auto& source : sources)
-      line << source.connection << source.catalog << source.schema << source.modelDSName;
-    const auto valuesOf = [&](const Element& row) {
-      Texts values;
-      response.GetResultSetRowValues(row, values);
-      return values;
-    };
-    for (Element row = response.GetFirstResultSetRow(); !row.isNull(); row = response.GetNextResultSetRow(row))
-      line << valuesOf(row);
-    line << valuesOf(tree) << response.GetNextResultSetRow(tree).isNull();
-    std::vector<std::map<QFResponseDomHelper::EColumnProp, I18NString>> columns;
-    response.GetColumnList(columns);
-    for (const auto& column : columns) Answers::require(column.size() == 11, "a column has 11 properties");
-    line << columns;
-  });
+void answer(Line& line, const QFResponseDomHelper& response, Element& tree) {
+  for (int kind = 0; kind <= 6; ++kind) {
+    I18NString text;
+    line << response.GetQueryFeedback(QFExecuteCommandHelper::EQueryFeedback(kind), text) << text;
+  }
+  std::vector<QFResponseDomHelper::DataSource> sources;
+  response.GetResponseDataSources(sources);
+  for (const auto& source : sources) line << source.connection << source.catalog << source.schema << source.modelDSName;
+  const auto valuesOf = [&](const Element& row) {
+    Texts values;
+    response.GetResultSetRowValues(row, values);
+    return values;
+  };
+  for (Element row = response.GetFirstResultSetRow(); !row.isNull(); row = response.GetNextResultSetRow(row))
+    line << valuesOf(row);
+  line << valuesOf(tree) << response.GetNextResultSetRow(tree).isNull();
+  std::vector<std::map<QFResponseDomHelper::EColumnProp, I18NString>> columns;
+  response.GetColumnList(columns);
+  for (const auto& column : columns) Answers::require(column.size() == 11, "a column has 11 properties");
+  line << columns;
 }
 
 Element makeValidate() {
@@ -145,11 +135,9 @@ Element makeValidate() {
   return made(command);
 }
 
-Element makeValidateReply() {
-  return parse(
-      "<response><message severity='information'>a message with a rather long text</message><message severity='error'/>"
-      "<message severity='warning'>w</message><message severity='fatal'>f</message><x severity='odd'/></response>");
-}
+constexpr char kValidateReply[] =
+    "<response><message severity='information'>a message with a rather long text</message><message severity='error'/>"
+    "<message severity='warning'>w</message><message severity='fatal'>f</message><x severity='odd'/></response>";
 
 void readValidateReply(Element& tree, Answers& answers) {
   answers.ask([&](Line& line) {
@@ -173,11 +161,9 @@ Element makeUpdate() {
   return made(command);
 }
 
-Element makeCommandWithConnection() {
-  return parse(
-      "<command><connection><connection><name value='n'/><dataSourceType value='t'/></connection></connection>"
-      "<testConnection/><execute><Metadata value='a'/></execute></command>");
-}
+constexpr char kCommandWithConnection[] =
+    "<command><connection><connection><name value='n'/><dataSourceType value='t'/></connection></connection>"
+    "<testConnection/><execute><Metadata value='a'/></execute></command>";
 
 void addConnection(Element& tree) {
   Element connection = parse("<connection><connection><name value='n'/></connection></connection>");
@@ -214,15 +200,13 @@ void refreshConnection(Element& tree) {
   QsApiConnectHelper::RefreshRequest(tree, kLong, &locale, &locale);
 }
 
-Element makeFault() {
-  return parse(
-      "<fault><faultcode>c</faultcode><faultstring>a fault with a rather long text</faultstring>"
-      "<faultDataSource value='a'/><faultConnection><name value='a name longer than a text holds'/><x><signon>"
-      "<name value='s'/></signon><signon/></x></faultConnection><faultSignon><name value='s'/>"
-      "<searchPath value='longer than what a text holds in place'/></faultSignon><dataSource><name value='a'/>"
-      "<type value='t'/><connection><name value='a'/><connectionString value='also longer than a text holds'/><signon>"
-      "<name value='b'/></signon></connection></dataSource></fault>");
-}
+constexpr char kFault[] =
+    "<fault><faultcode>c</faultcode><faultstring>a fault with a rather long text</faultstring>"
+    "<faultDataSource value='a'/><faultConnection><name value='a name longer than a text holds'/><x><signon>"
+    "<name value='s'/></signon><signon/></x></faultConnection><faultSignon><name value='s'/>"
+    "<searchPath value='longer than what a text holds in place'/></faultSignon><dataSource><name value='a'/>"
+    "<type value='t'/><connection><name value='a'/><connectionString value='also longer than a text holds'/><signon>"
+    "<name value='b'/></signon></connection></dataSource></fault>";
 
 void write(Line& line, const QsDataSourceFaultHelper::ConnectionInfo* connection) {
   if (connection == nullptr) return;
@@ -230,24 +214,18 @@ void write(Line& line, const QsDataSourceFaultHelper::ConnectionInfo* connection
   for (const auto* signon : connection->signons) line << signon->name << signon->searchPath;
 }
 
-void readFault(Element& tree, Answers& answers) {
-  QsDataSourceFaultHelper fault;
-  for (int time = 0; time < 2; ++time) {
-    fault.Take(tree);
-    answers.ask([&](Line& line) {
-      line << fault.GetFaultCode() << fault.GetFaultSubCode() << fault.GetFaultString() << fault.GetFaultSubString()
-           << fault.GetFaultDataSourceName();
-      write(line, fault.GetFaultConnection());
-      Answers::require(fault.GetFaultConnection() == fault.GetFaultConnection(), "the connection stays the same");
-      if (const auto* signon = fault.GetFaultSignon()) line << signon->name << signon->searchPath;
-      Answers::require(fault.GetFaultSignon() == fault.GetFaultSignon(), "the signon stays the same");
-      for (const char* name : {"a", "b", ""}) {
-        QsDataSourceFaultHelper::DataSourceInfo info;
-        line << fault.GetDataSourceInfo(name, info) << info.name << info.type;
-        for (const auto* connection : info.connections) write(line, connection);
-        write(line, info.GetConnectionInfo("a"));
-      }
-    });
+void answer(Line& line, QsDataSourceFaultHelper& fault, Element&) {
+  line << fault.GetFaultCode() << fault.GetFaultSubCode() << fault.GetFaultString() << fault.GetFaultSubString()
+       << fault.GetFaultDataSourceName();
+  write(line, fault.GetFaultConnection());
+  Answers::require(fault.GetFaultConnection() == fault.GetFaultConnection(), "the connection stays the same");
+  if (const auto* signon = fault.GetFaultSignon()) line << signon->name << signon->searchPath;
+  Answers::require(fault.GetFaultSignon() == fault.GetFaultSignon(), "the signon stays the same");
+  for (const char* name : {"a", "b", ""}) {
+    QsDataSourceFaultHelper::DataSourceInfo info;
+    line << fault.GetDataSourceInfo(name, info) << info.name << info.type;
+    for (const auto* connection : info.connections) write(line, connection);
+    write(line, info.GetConnectionInfo("a"));
   }
 }
 
@@ -319,9 +297,7 @@ void readHierarchy(Element& tree, Answers& answers) {
   answers.ask([&](Line& line) { line << first; });
 }
 
-Element makeSimpleNode() {
-  return parse("<a><n>a value longer than what a text holds in place</n><x>b</x></a>");
-}
+constexpr char kSimpleNode[] = "<a><n>a value longer than what a text holds in place</n><x>b</x></a>";
 
 void readSimpleNode(Element& tree, Answers& answers) {
   answers.ask([&](Line& line) {
@@ -343,14 +319,11 @@ Element makeExpand() {
   return made(command);
 }
 
-Element makeExpansion() {
-  return parse("<response><expansionResult>an expression that is rather long</expansionResult><x/></response>");
-}
+constexpr char kExpansion[] =
+    "<response><expansionResult>an expression that is rather long</expansionResult><x/></response>";
 
-void readExpansion(Element& tree, Answers& answers) {
-  VqeExpandParameterHelper command("m");
-  command.Take(tree);
-  answers.ask([&](Line& line) { line << command.GetExpandedQuery(); });
+void answer(Line& line, const VqeExpandParameterHelper& command, Element&) {
+  line << command.GetExpandedQuery();
 }
 
 Element makeParameters() {
@@ -359,12 +332,10 @@ Element makeParameters() {
   return made(helper);
 }
 
-void readParameters(Element& tree, Answers& answers) {
-  VqeGetParametersHelper helper;
-  helper.Take(tree);
+void answer(Line& line, const VqeGetParametersHelper& helper, Element& tree) {
   Answers::require(tree.getElementsByTagName("parameter").getLength() == helper.GetParameters().size(),
                    "every parameter is read");
-  answers.ask([&](Line& line) { line << helper.GetParameters() << made(helper); });
+  line << helper.GetParameters() << made(helper);
 }
 
 Element makeGetJoinPaths() {
@@ -373,19 +344,14 @@ Element makeGetJoinPaths() {
   return made(command);
 }
 
-Element makeJoinPaths() {
-  return parse("<response><joinPath><join>a</join><join>a join of a rather long name</join></joinPath><x/></response>");
-}
+constexpr char kJoinPaths[] =
+    "<response><joinPath><join>a</join><join>a join of a rather long name</join></joinPath><x/></response>";
 
-void readJoinPaths(Element& tree, Answers& answers) {
-  VqeGetJoinPathsHelper command("m");
-  command.Take(tree);
-  answers.ask([&](Line& line) {
-    std::set<I18NString> joins;
-    command.GetJoins(joins);
-    Answers::require(command.PathExists() || joins.empty(), "joins stand in paths");
-    line << command.PathExists() << joins;
-  });
+void answer(Line& line, const VqeGetJoinPathsHelper& command, Element&) {
+  std::set<I18NString> joins;
+  command.GetJoins(joins);
+  Answers::require(command.PathExists() || joins.empty(), "joins stand in paths");
+  line << command.PathExists() << joins;
 }
 
 Element makeRefine() {
@@ -395,10 +361,8 @@ Element makeRefine() {
   return element;
 }
 
-Element makeRefined() {
-  return parse(
-      "<response><expression>a</expression><expression>an object of a rather long name</expression></response>");
-}
+constexpr char kRefined[] =
+    "<response><expression>a</expression><expression>an object of a rather long name</expression></response>";
 
 void readRefined(Element& tree, Answers& answers) {
   VqeRefineObjectsHelper command("m");
@@ -410,10 +374,8 @@ void readRefined(Element& tree, Answers& answers) {
   }
 }
 
-Element makeDefinition() {
-  return parse(
-      "<definition><dbQuery><sql type='veltra'>select a from a rather long table</sql><x/></dbQuery></definition>");
-}
+constexpr char kDefinition[] =
+    "<definition><dbQuery><sql type='veltra'>select a from a rather long table</sql><x/></dbQuery></definition>";
 
 void readDefinition(Element& tree, Answers& answers) {
   answers.ask([&](Line& line) { line << made(VqeQuerySubjectHelper("m", tree)); });
@@ -483,36 +445,26 @@ Element makeDefinitionFile() {
   return made(file);
 }
 
-void readDefinitionFile(Element& tree, Answers& answers) {
-  DXActionHelperIQDFile file;
-  file.Take(tree);
-  answers.ask([&](Line& line) {
-    line << file.getFilePath() << file.getDbConnectionName() << file.getCmDataSource() << file.getContents()
-         << made(file);
-  });
+void answer(Line& line, const DXActionHelperIQDFile& file, Element&) {
+  line << file.getFilePath() << file.getDbConnectionName() << file.getCmDataSource() << file.getContents()
+       << made(file);
 }
 
-Element makeImportConfig() {
-  return parse(
-      "<source queryType='relational' interfaceType='a rather long type of interface' pluginName='p'>"
-      "<connection provider='p'><item name='a name that is rather long' nameInRequest='r'/><item/></connection>"
-      "<capabilities><item name='n' value='a value that is rather long'/></capabilities></source>");
-}
+constexpr char kImportConfig[] =
+    "<source queryType='relational' interfaceType='a rather long type of interface' pluginName='p'>"
+    "<connection provider='p'><item name='a name that is rather long' nameInRequest='r'/><item/></connection>"
+    "<capabilities><item name='n' value='a value that is rather long'/></capabilities></source>";
 
-void readImportConfig(Element& tree, Answers& answers) {
-  DXActionHelperImportConfig config;
-  config.Take(tree);
-  answers.ask([&](Line& line) {
-    I18NString query, plugin, interface, provider;
-    line << config.getQueryType(query) << query << config.getPluginName(plugin) << plugin
-         << config.getInterfaceType(interface) << interface << config.getConnectionProvider(provider) << provider;
-    std::vector<DXActionHelperImportConfig::ConnectionItem> items;
-    config.getConnectionItems(items);
-    for (const auto& item : items) line << item.name << item.nameInRequest;
-    std::vector<DXActionHelperImportConfig::ConfigItem> capabilities;
-    config.getCapabilities(capabilities);
-    for (const auto& item : capabilities) line << item.name << item.value;
-  });
+void answer(Line& line, const DXActionHelperImportConfig& config, Element&) {
+  I18NString query, plugin, interface, provider;
+  line << config.getQueryType(query) << query << config.getPluginName(plugin) << plugin
+       << config.getInterfaceType(interface) << interface << config.getConnectionProvider(provider) << provider;
+  std::vector<DXActionHelperImportConfig::ConnectionItem> items;
+  config.getConnectionItems(items);
+  for (const auto& item : items) line << item.name << item.nameInRequest;
+  std::vector<DXActionHelperImportConfig::ConfigItem> capabilities;
+  config.getCapabilities(capabilities);
+  for (const auto& item : capabilities) line << item.name << item.value;
 }
 
 Element makeObjectAccess() {
@@ -528,18 +480,14 @@ void write(Line& line, const DXActionHelperSecurityObject& object) {
   line << object.cmSearchPath << object.displayPath << object.type;
 }
 
-void readObjectAccess(Element& tree, Answers& answers) {
-  DXActionHelperObjectAccess access;
-  access.Take(tree);
-  answers.ask([&](Line& line) {
-    std::vector<DXActionHelperObjectAccess::SecurityObjectAccess> entries;
-    access.getEntries(entries);
-    for (const auto& entry : entries) {
-      write(line, *entry.securityObject);
-      line << entry.rule;
-    }
-    line << access.isUnspecifiedForAllEntries();
-  });
+void answer(Line& line, const DXActionHelperObjectAccess& access, Element&) {
+  std::vector<DXActionHelperObjectAccess::SecurityObjectAccess> entries;
+  access.getEntries(entries);
+  for (const auto& entry : entries) {
+    write(line, *entry.securityObject);
+    line << entry.rule;
+  }
+  line << access.isUnspecifiedForAllEntries();
 }
 
 void addObjectAccess(Element& tree) {
@@ -558,12 +506,10 @@ Element makeSecurityObjects() {
   return element;
 }
 
-Element makeNestedViews() {
-  return parse(
-      "<securityObjects><securityObject type='t'><displayPath>d</displayPath><cmSearchPath>a</cmSearchPath><view>"
-      "<viewref>v</viewref><view><viewref>w</viewref>a package of a rather long name</view></view></securityObject>"
-      "</securityObjects>");
-}
+constexpr char kNestedViews[] =
+    "<securityObjects><securityObject type='t'><displayPath>d</displayPath><cmSearchPath>a</cmSearchPath><view>"
+    "<viewref>v</viewref><view><viewref>w</viewref>a package of a rather long name</view></view></securityObject>"
+    "</securityObjects>";
 
 void readSecurityObjects(Element& tree, Answers& answers) {
   DXActionHelperSecurityObjectSpec spec;
@@ -600,18 +546,14 @@ Element makeRetarget() {
   return element;
 }
 
-void readRetarget(Element& tree, Answers& answers) {
-  DXActionHelperRetargetObjectReferences retarget;
-  retarget.Take(tree);
-  answers.ask([&](Line& line) {
-    for (const auto& entry : retarget.getEntries()) {
-      line << entry.m_currentRefValue;
-      for (const auto& update : entry.m_updateInfoList) {
-        line << update.m_newRefValue;
-        for (const auto& item : update.m_itemsToUpdate) line << item.m_itemID << item.m_processDescendants;
-      }
+void answer(Line& line, const DXActionHelperRetargetObjectReferences& retarget, Element&) {
+  for (const auto& entry : retarget.getEntries()) {
+    line << entry.m_currentRefValue;
+    for (const auto& update : entry.m_updateInfoList) {
+      line << update.m_newRefValue;
+      for (const auto& item : update.m_itemsToUpdate) line << item.m_itemID << item.m_processDescendants;
     }
-  });
+  }
 }
 
 void addRetarget(Element& tree) {
@@ -627,14 +569,9 @@ Element makeExternalizeReport() {
   return made(report);
 }
 
-void readExternalizeReport(Element& tree, Answers& answers) {
-  DXExternalizeReportHelper report;
-  report.Take(tree);
-  answers.ask([&](Line& line) {
-    for (const auto* entry : report.GetEntries())
-      line << entry->objectID << entry->method << entry->path << entry->error;
-    line << made(report);
-  });
+void answer(Line& line, const DXExternalizeReportHelper& report, Element&) {
+  for (const auto* entry : report.GetEntries()) line << entry->objectID << entry->method << entry->path << entry->error;
+  line << made(report);
 }
 
 Element makePackages() {
@@ -644,13 +581,9 @@ Element makePackages() {
   return made(packages);
 }
 
-void readPackages(Element& tree, Answers& answers) {
-  DXPackagesReportHelper packages;
-  packages.Take(tree);
-  answers.ask([&](Line& line) {
-    for (const auto* package : packages.GetPackages()) line << package->defaultName << package->searchPath;
-    line << made(packages);
-  });
+void answer(Line& line, const DXPackagesReportHelper& packages, Element&) {
+  for (const auto* package : packages.GetPackages()) line << package->defaultName << package->searchPath;
+  line << made(packages);
 }
 
 // updateobject
@@ -713,24 +646,20 @@ Element makeUpdateResponse() {
   return made(response);
 }
 
-void readUpdateResponse(Element& tree, Answers& answers) {
-  DXUpdateObjectResponseHelper response;
-  response.Take(tree);
+void answer(Line& line, const DXUpdateObjectResponseHelper& response, Element& tree) {
   const TRNIDOM_NodeList elements = tree.getElementsByTagName("task");
-  answers.ask([&](Line& line) {
-    std::size_t number = 0;
-    for (ResponseTask* task : response.GetTasks()) {
-      Answers::require(task->GetFeedback() == TRNIDOM_Helper::findFirstElement(elements.item(number++), "feedback"),
-                       "a task's feedback is the first in it");
-      for (int parameter = 0; parameter <= ResponseTask::kParamObject; ++parameter) {
-        Texts values;
-        line << task->GetParameter(ResponseTask::EParameter(parameter), values) << values;
-      }
-      if (const auto* error = task->GetError()) line << error->code << error->message;
-      line << task->GetTask() << task->GetStatus() << task->GetFeedback();
+  std::size_t number = 0;
+  for (ResponseTask* task : response.GetTasks()) {
+    Answers::require(task->GetFeedback() == TRNIDOM_Helper::findFirstElement(elements.item(number++), "feedback"),
+                     "a task's feedback is the first in it");
+    for (int parameter = 0; parameter <= ResponseTask::kParamObject; ++parameter) {
+      Texts values;
+      line << task->GetParameter(ResponseTask::EParameter(parameter), values) << values;
     }
-    line << (response.GetTask(RequestTask::kTaskAddObject) != nullptr) << made(response);
-  });
+    if (const auto* error = task->GetError()) line << error->code << error->message;
+    line << task->GetTask() << task->GetStatus() << task->GetFeedback();
+  }
+  line << (response.GetTask(RequestTask::kTaskAddObject) != nullptr) << made(response);
 }
 
 Element makeFeedback() {
@@ -741,15 +670,11 @@ Element makeFeedback() {
   return made(feedback);
 }
 
-void readFeedback(Element& tree, Answers& answers) {
-  DXActionFeedbackHelper feedback;
-  feedback.Take(tree);
-  answers.ask([&](Line& line) {
-    I18NString text;
-    feedback.Render(text);
-    DXFeedbackEntry::Render(tree, "\t", text);
-    line << feedback.IsEmpty() << text;
-  });
+void answer(Line& line, DXActionFeedbackHelper& feedback, Element& tree) {
+  I18NString text;
+  feedback.Render(text);
+  DXFeedbackEntry::Render(tree, "\t", text);
+  line << feedback.IsEmpty() << text;
 }
 
 // materialize
@@ -769,38 +694,28 @@ Element makeMaterializeRequest() {
   return made(request);
 }
 
-void readMaterializeRequest(Element& tree, Answers& answers) {
-  Materialize request;
-  request.Take(tree);
-  answers.ask([&](Line& line) {
-    line << request.GetTasks();
-    const Materialize::TargetDataSource source = request.GetTargetDataSourceInfo();
-    for (const I18NString* text : {source.type, source.database, source.connectionString, source.reserved,
-                                   source.userName, source.password, source.ssoTicket})
-      line << (text != nullptr ? *text : I18NString("null"));
-    for (int parameter = 0; parameter <= Materialize::kParamObjectID; ++parameter) {
-      I18NString value;
-      line << request.GetParameter(Materialize::EParameters(parameter), value) << value;
-    }
-    line << request.GetResultSet() << made(request);
-  });
+void answer(Line& line, Materialize& request, Element&) {
+  line << request.GetTasks();
+  const Materialize::TargetDataSource source = request.GetTargetDataSourceInfo();
+  for (const I18NString* text : {source.type, source.database, source.connectionString, source.reserved,
+                                 source.userName, source.password, source.ssoTicket})
+    line << (text != nullptr ? *text : I18NString("null"));
+  for (int parameter = 0; parameter <= Materialize::kParamObjectID; ++parameter) {
+    I18NString value;
+    line << request.GetParameter(Materialize::EParameters(parameter), value) << value;
+  }
+  line << request.GetResultSet() << made(request);
 }
 
-Element makeMaterializeResponse() {
-  return parse(
-      "<materializeResponse><genLoadDataFromFile><response>a statement that is rather long</response>"
-      "</genLoadDataFromFile><loadDataFromFile><response>r</response></loadDataFromFile></materializeResponse>");
-}
+constexpr char kMaterializeResponse[] =
+    "<materializeResponse><genLoadDataFromFile><response>a statement that is rather long</response>"
+    "</genLoadDataFromFile><loadDataFromFile><response>r</response></loadDataFromFile></materializeResponse>";
 
-void readMaterializeResponse(Element& tree, Answers& answers) {
-  DXMaterializeResponseHelper response;
-  response.Take(tree);
-  answers.ask([&](Line& line) {
-    for (int task = 0; task <= Materialize::kTaskMaterializeResultSet; ++task) {
-      I18NString text;
-      line << response.GetResponse(Materialize::ETasks(task), text) << text;
-    }
-  });
+void answer(Line& line, DXMaterializeResponseHelper& response, Element&) {
+  for (int task = 0; task <= Materialize::kTaskMaterializeResultSet; ++task) {
+    I18NString text;
+    line << response.GetResponse(Materialize::ETasks(task), text) << text;
+  }
 }
 
 // modelanalysis
@@ -816,14 +731,9 @@ Element makeAnalyzeRequest() {
   return made(request);
 }
 
-void readAnalyzeRequest(Element& tree, Answers& answers) {
-  DXModelAnalysisRequestHelper request;
-  request.Take(tree);
-  answers.ask([&](Line& line) {
-    for (const AnalyzeTask* task : request.GetTasks())
-      line << task->GetTask() << task->GetChecks() << task->GetObjects();
-    line << made(request);
-  });
+void answer(Line& line, const DXModelAnalysisRequestHelper& request, Element&) {
+  for (const AnalyzeTask* task : request.GetTasks()) line << task->GetTask() << task->GetChecks() << task->GetObjects();
+  line << made(request);
 }
 
 Element makeAnalyzeResponse() {
@@ -837,52 +747,75 @@ Element makeAnalyzeResponse() {
   return made(response);
 }
 
+/// The example in that text.
+template <const char* xml>
+Element example() {
+  return parse(xml);
+}
+
+/// An example that a new helper writes.
+template <typename Helper>
+Element makeNew() {
+  return made(Helper());
+}
+
+/// Has a helper that is made from the arguments take the element and answer.
+template <typename Helper, const char*... arguments>
+void reads(Element& tree, Answers& answers) {
+  Helper helper(arguments...);
+  helper.Take(tree);
+  answers.ask([&](Line& line) { answer(line, helper, tree); });
+}
+
+constexpr char kModel[] = "m";
+
 }  // namespace
 
 const std::vector<Message>& allMessages() {
   static const std::vector<Message> all = {
       {"queryframework", "execute", makeExecute},
-      {"queryframework", "response", makeResponse, readResponse},
+      {"queryframework", "response", example<kResponse>, reads<QFResponseDomHelper>},
       {"queryframework", "closeConnections", makeNew<QFCloseConnectionsCommandHelper>},
       {"queryframework", "validate", makeValidate},
-      {"queryframework", "validateReply", makeValidateReply, readValidateReply, makeOver},
+      {"queryframework", "validateReply", example<kValidateReply>, readValidateReply, makeOver},
       {"queryframework", "update", makeUpdate},
-      {"queryframework", "commandWithConnection", makeCommandWithConnection, nullptr, addConnection},
-      {"queryframework", "connectionOfCommand", makeCommandWithConnection, nullptr, addAsConnection},
+      {"queryframework", "commandWithConnection", example<kCommandWithConnection>, nullptr, addConnection},
+      {"queryframework", "connectionOfCommand", example<kCommandWithConnection>, nullptr, addAsConnection},
       {"queryservice", "connection", makeConnection, nullptr, refreshConnection},
-      {"queryservice", "dataSourceFault", makeFault, readFault},
+      {"queryservice", "dataSourceFault", example<kFault>, reads<QsDataSourceFaultHelper>},
       {"queryservice", "simpleItem", makeSimpleItem, readItem},
       {"queryservice", "rangeItem", makeRangeItem, readItem},
       {"queryservice", "hierarchyItem", makeHierarchyItem, readItem},
       {"queryservice", "nullItem", makeNew<QsParamValueItemNullHelper>, readItem},
       {"queryservice", "hierarchy", makeHierarchyItem, readHierarchy},
-      {"queryservice", "simpleNode", makeSimpleNode, readSimpleNode},
+      {"queryservice", "simpleNode", example<kSimpleNode>, readSimpleNode},
       {"queryengine", "cancelQuery", makeNew<VqeCancelQueryHelper>},
       {"queryengine", "expandParameter", makeExpand},
-      {"queryengine", "expansionResult", makeExpansion, readExpansion},
-      {"queryengine", "getParameters", makeParameters, readParameters},
+      {"queryengine", "expansionResult", example<kExpansion>, reads<VqeExpandParameterHelper, kModel>},
+      {"queryengine", "getParameters", makeParameters, reads<VqeGetParametersHelper>},
       {"queryengine", "getJoinPaths", makeGetJoinPaths},
-      {"queryengine", "joinPaths", makeJoinPaths, readJoinPaths},
+      {"queryengine", "joinPaths", example<kJoinPaths>, reads<VqeGetJoinPathsHelper, kModel>},
       {"queryengine", "refineObjects", makeRefine},
-      {"queryengine", "refinedObjects", makeRefined, readRefined},
-      {"queryengine", "querySubject", makeDefinition, readDefinition},
+      {"queryengine", "refinedObjects", example<kRefined>, readRefined},
+      {"queryengine", "querySubject", example<kDefinition>, readDefinition},
       {"queryengine", "testConnection", makeTestConnection},
       {"core", "dimInfo", makeDimInfo, readDimInfo},
       {"modelactions", "dbConnections", makeDBConnections, readDBConnections},
-      {"modelactions", "definitionFile", makeDefinitionFile, readDefinitionFile},
-      {"modelactions", "importConfig", makeImportConfig, readImportConfig},
-      {"modelactions", "objectAccess", makeObjectAccess, readObjectAccess, addObjectAccess},
+      {"modelactions", "definitionFile", makeDefinitionFile, reads<DXActionHelperIQDFile>},
+      {"modelactions", "importConfig", example<kImportConfig>, reads<DXActionHelperImportConfig>},
+      {"modelactions", "objectAccess", makeObjectAccess, reads<DXActionHelperObjectAccess>, addObjectAccess},
       {"modelactions", "securityObjects", makeSecurityObjects, readSecurityObjects, addSecurityObject},
-      {"modelactions", "nestedViews", makeNestedViews, readSecurityObjects},
-      {"modelactions", "retargetObjectReferences", makeRetarget, readRetarget, addRetarget},
-      {"modelactions", "externalizeReport", makeExternalizeReport, readExternalizeReport},
-      {"modelactions", "packages", makePackages, readPackages},
+      {"modelactions", "nestedViews", example<kNestedViews>, readSecurityObjects},
+      {"modelactions", "retargetObjectReferences", makeRetarget, reads<DXActionHelperRetargetObjectReferences>,
+       addRetarget},
+      {"modelactions", "externalizeReport", makeExternalizeReport, reads<DXExternalizeReportHelper>},
+      {"modelactions", "packages", makePackages, reads<DXPackagesReportHelper>},
       {"updateobject", "updateObjectRequest", makeUpdateRequest, readUpdateRequest, remapUpdateRequest},
-      {"updateobject", "updateObjectResponse", makeUpdateResponse, readUpdateResponse},
-      {"updateobject", "feedback", makeFeedback, readFeedback},
-      {"materialize", "materializeRequest", makeMaterializeRequest, readMaterializeRequest},
-      {"materialize", "materializeResponse", makeMaterializeResponse, readMaterializeResponse},
-      {"modelanalysis", "analyzeModelRequest", makeAnalyzeRequest, readAnalyzeRequest},
+      {"updateobject", "updateObjectResponse", makeUpdateResponse, reads<DXUpdateObjectResponseHelper>},
+      {"updateobject", "feedback", makeFeedback, reads<DXActionFeedbackHelper>},
+      {"materialize", "materializeRequest", makeMaterializeRequest, reads<Materialize>},
+      {"materialize", "materializeResponse", example<kMaterializeResponse>, reads<DXMaterializeResponseHelper>},
+      {"modelanalysis", "analyzeModelRequest", makeAnalyzeRequest, reads<DXModelAnalysisRequestHelper>},
       {"modelanalysis", "analyzeModelResponse", makeAnalyzeResponse},
   };
   return all;
