@@ -25,15 +25,15 @@ TRNIDOM_Element parsed(const std::string& xml) {
   return TRNIDOM_Parser::parseString(xml).getDocumentElement();
 }
 
-TRNIDOM_Element nestedDeep(const I18NString& elementName, const I18NString& name, TRNIDOM_Element& innermost) {
+std::pair<TRNIDOM_Element, TRNIDOM_Element> nestedDeep(const I18NString& elementName, const I18NString& name) {
   TRNIDOM_Document document = newDocument();
   TRNIDOM_Element root = document.createElement("r");
-  innermost = root;
+  TRNIDOM_Element innermost = root;
   for (int depth = 0; depth < 100'000; ++depth) {
     innermost = innermost.appendChild(document.createElement(elementName));
     if (!name.empty()) innermost.setAttribute("name", name);
   }
-  return root;
+  return {root, innermost};
 }
 
 std::string utf16(const std::u16string& text, bool bigEndian) {

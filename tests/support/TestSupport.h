@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include <gtest/gtest.h>
 #include <trn/I18NString.h>
@@ -29,10 +30,9 @@ TRNIDOM_Document newDocument();
 /// The document element of the parsed text.
 TRNIDOM_Element parsed(const std::string& xml);
 
-/// A new "r" with elements nested in each other, a hundred thousand deep.
-/// @param name       the attribute "name" of each; none when empty.
-/// @param innermost  becomes the last of them.
-TRNIDOM_Element nestedDeep(const I18NString& elementName, const I18NString& name, TRNIDOM_Element& innermost);
+/// A new "r" with elements nested in each other, a hundred thousand deep, and the innermost of them.
+/// @param name  the attribute "name" of each; none when empty.
+std::pair<TRNIDOM_Element, TRNIDOM_Element> nestedDeep(const I18NString& elementName, const I18NString& name = "");
 
 /// The text as bytes of UTF-16, without a byte order mark of its own.
 std::string utf16(const std::u16string& text, bool bigEndian);

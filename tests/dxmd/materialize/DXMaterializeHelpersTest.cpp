@@ -158,8 +158,7 @@ TEST(DXMaterializeResponseHelper, AnswersAreFoundUnderTheNamesOfTasksAndNeverWri
 }
 
 TEST(DXMaterializeRequestHelper, TasksNestedAHundredThousandDeepAreRead) {
-  TRNIDOM_Element innermost;
-  TRNIDOM_Element root = nestedDeep("task", "", innermost);
+  auto [root, innermost] = nestedDeep("task");
   innermost.appendChild(root.getOwnerDocument().createTextNode("loadDataFromFile"));
   Request request;
   request.Take(root);

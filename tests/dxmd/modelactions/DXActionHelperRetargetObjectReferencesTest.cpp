@@ -92,8 +92,7 @@ TEST(RetargetObjectReferences, PartsAreReadAtAnyDepthByEveryPartAroundThem) {
 }
 
 TEST(RetargetObjectReferences, EntriesNestedAHundredThousandDeepAreReadInOneWalk) {
-  TRNIDOM_Element inner;
-  TRNIDOM_Element root = nestedDeep("entry", "", inner);
+  auto [root, inner] = nestedDeep("entry");
   TRNIDOM_Element info = inner.appendChild(inner.getOwnerDocument().createElement("updateInfo"));
   info.setAttribute("newRefValue", "n");
   Retarget retarget;

@@ -67,8 +67,7 @@ TEST(DXModelAnalysisRequestHelper, ReadsChecksAndObjectsOfAnyDepth) {
 }
 
 TEST(DXModelAnalysisRequestHelper, TasksNestedAHundredThousandDeepAreReadInOneWalk) {
-  TRNIDOM_Element innermost;
-  TRNIDOM_Element root = nestedDeep("task", "doSpecifiedChecks", innermost);
+  auto [root, innermost] = nestedDeep("task", "doSpecifiedChecks");
   TRNIDOM_Element object = innermost.appendChild(root.getOwnerDocument().createElement("object"));
   object.setAttribute("id", "deep");
   Request request;

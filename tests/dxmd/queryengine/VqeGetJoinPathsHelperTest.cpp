@@ -81,8 +81,7 @@ TEST(VqeGetJoinPathsHelper, ResponseThatIsNoElementHoldsNothing) {
 
 // Every path contains all paths after it, and the innermost one a join.
 TEST(VqeGetJoinPathsHelper, DeeplyNestedPathsCostOneWalk) {
-  TRNIDOM_Element innermost;
-  TRNIDOM_Element response = nestedDeep("joinPath", "", innermost);
+  auto [response, innermost] = nestedDeep("joinPath");
   TRNIDOM_Document document = response.getOwnerDocument();
   innermost.appendChild(document.createElement("join")).appendChild(document.createTextNode("deep"));
   VqeGetJoinPathsHelper command("m");

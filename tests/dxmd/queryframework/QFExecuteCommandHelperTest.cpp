@@ -61,18 +61,19 @@ TEST(QFExecuteCommandHelper, QueriesMergeIntoOneResultDefinition) {
 }
 
 TEST(QFExecuteCommandHelper, SpecialFirstQueryIsDefinedAlone) {
-  for (const char* name : {"SingleCount", "querySet"}) {
+  // The name of the definition and those of its items.
+  const auto definition = [](const char* first, const char* second) {
     Execute command("", nullptr);
-    command.AddQuery(name)->AddDataItem("first", "");
-    command.AddQuery("B")->AddDataItem("second", "");
-    const std::string definitions = part(command, "queryResultDefinitions");
-    EXPECT_NE(std::string::npos, definitions.find(std::string("name=\"rsd") + name + "\"")) << definitions;
-    EXPECT_EQ(std::string::npos, definitions.find("second")) << definitions;
-  }
-  Execute command("", nullptr);
-  command.AddQuery("B")->AddDataItem("first", "");
-  command.AddQuery("SingleCount")->AddDataItem("second", "");
-  EXPECT_NE(std::string::npos, part(command, "queryResultDefinitions").find("second")) << "only the first name counts";
+    for (const char* name : {first, second}) command.AddQuery(name)->AddDataItem(name, "");
+    const TRNIDOM_Element element = TRNIDOM_Helper::findFirstElement(madeElement(command), "queryResultDefinition");
+    std::string names = element.getAttribute("name").toUtf8();
+    for (const TRNIDOM_Element item : element.getElementsByTagName("dataItemRef"))
+      names += " " + item.getAttribute("refDataItem").toUtf8();
+    return names;
+  };
+  EXPECT_EQ("rsdSingleCount SingleCount", definition("SingleCount", "B"));
+  EXPECT_EQ("rsdquerySet querySet", definition("querySet", "B"));
+  EXPECT_EQ("rsdSingleCount B SingleCount", definition("B", "SingleCount")) << "only the first name counts";
 }
 
 TEST(QFExecuteCommandHelper, HintsComeInOrderOfTheirKindAndOncePerKind) {

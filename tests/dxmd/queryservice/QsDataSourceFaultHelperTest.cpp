@@ -161,10 +161,8 @@ TEST(QsDataSourceFaultHelper, UnknownConnectionNameGivesTheLast) {
 }
 
 TEST(QsDataSourceFaultHelper, DataSourcesNestedAHundredThousandDeepAreReadInOneWalk) {
-  TRNIDOM_Element innermost;
-  TRNIDOM_Element root = nestedDeep("dataSource", "", innermost);
   QsDataSourceFaultHelper helper;
-  helper.Take(root);
+  take(helper, nestedDeep("dataSource").first);
   DataSourceInfo info;
   EXPECT_FALSE(helper.GetDataSourceInfo("d", info));
 }

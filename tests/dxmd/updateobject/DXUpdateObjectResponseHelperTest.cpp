@@ -130,8 +130,7 @@ TEST(DXUpdateResponseTaskHelper, RefusesParametersItDoesNotKnow) {
 }
 
 TEST(DXUpdateObjectResponseHelper, TasksNestedAHundredThousandDeepAreReadInOneWalk) {
-  TRNIDOM_Element innermost;
-  TRNIDOM_Element root = nestedDeep("task", "addObject", innermost);
+  auto [root, innermost] = nestedDeep("task", "addObject");
   const DXUpdateObjectResponseHelper without(root);
   EXPECT_TRUE(without.GetTasks().front()->GetFeedback().isNull());
 
