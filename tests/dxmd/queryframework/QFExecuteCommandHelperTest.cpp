@@ -62,18 +62,18 @@ TEST(QFExecuteCommandHelper, QueriesMergeIntoOneResultDefinition) {
 
 TEST(QFExecuteCommandHelper, SpecialFirstQueryIsDefinedAlone) {
   // The name of the definition and those of its items.
-  const auto definition = [](const char* first, const char* second) {
+  const auto definition = [](std::initializer_list<const char*> queries) {
     Execute command("", nullptr);
-    for (const char* name : {first, second}) command.AddQuery(name)->AddDataItem(name, "");
+    for (const char* name : queries) command.AddQuery(name)->AddDataItem(name, "");
     const TRNIDOM_Element element = TRNIDOM_Helper::findFirstElement(madeElement(command), "queryResultDefinition");
     std::string names = element.getAttribute("name").toUtf8();
     for (const TRNIDOM_Element item : element.getElementsByTagName("dataItemRef"))
       names += " " + item.getAttribute("refDataItem").toUtf8();
     return names;
   };
-  EXPECT_EQ("rsdSingleCount SingleCount", definition("SingleCount", "B"));
-  EXPECT_EQ("rsdquerySet querySet", definition("querySet", "B"));
-  EXPECT_EQ("rsdSingleCount B SingleCount", definition("B", "SingleCount")) << "only the first name counts";
+  EXPECT_EQ("rsdSingleCount SingleCount", definition({"SingleCount", "B"}));
+  EXPECT_EQ("rsdquerySet querySet", definition({"querySet", "B"}));
+  EXPECT_EQ("rsdC B SingleCount querySet C", definition({"B", "SingleCount", "querySet", "C"}));
 }
 
 TEST(QFExecuteCommandHelper, HintsComeInOrderOfTheirKindAndOncePerKind) {
@@ -105,7 +105,7 @@ TEST(QFExecuteCommandHelper, FeedbackNeedsFeedbacksOrSeverity) {
 }
 
 TEST(QFExecuteCommandHelper, NagLevelsBecomeSeverities) {
-  const std::pair<int, int> severities[] = {{0, 1}, {1, 1}, {2, 2}, {3, 3}, {4, 4}, {99, 4}};
+  const std::pair<unsigned long, int> severities[] = {{0, 1}, {1, 1}, {2, 2}, {3, 3}, {4, 4}, {99, 4}};
   for (const auto& [level, severity] : severities)
     EXPECT_EQ(severity, Execute::ConvertNagLevel2SeverityLevel(level)) << level;
 }

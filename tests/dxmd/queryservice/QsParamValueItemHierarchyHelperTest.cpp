@@ -8,7 +8,7 @@ namespace {
 
 using Hierarchy = QsParamValueItemHierarchyHelper;
 
-constexpr int kDeep = 100000;
+constexpr int kDeep = 300'000;  // destructors that call each other would need the whole stack
 
 // An item of that value around the content of its "subNodes".
 std::string item(const std::string& use, const std::string& subNodes) {
