@@ -3,13 +3,13 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <set>
 #include <stdexcept>
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include "TempFolder.h"
 
@@ -26,12 +26,6 @@ constexpr const char* kMeasure = "--measure";
 constexpr std::size_t kTimes = 8;
 constexpr std::uint64_t kMost = 12;
 
-std::string ownPath() {
-  char path[4096];
-  const ssize_t size = readlink("/proc/self/exe", path, sizeof path);
-  return std::string(path, size > 0 ? static_cast<std::size_t>(size) : 0);
-}
-
 bool hasValgrind() {
   return std::system("valgrind --version >/dev/null 2>&1") == 0;  // NOLINT: a fixed command
 }
@@ -41,8 +35,9 @@ std::vector<std::uint64_t> instructionsOf(const std::string& group) {
   const TempFolder folder;
   const std::string command =
       "valgrind --tool=callgrind --combine-dumps=yes --callgrind-out-file=" + folder.path("counts") +
-      " --toggle-collect=dxmdCountedWork --dump-after=dxmdCountedWork '" + ownPath() + "' " + kMeasure + " " + group +
-      " >" + folder.path("log") + " 2>&1";
+      " --toggle-collect=dxmdCountedWork --dump-after=dxmdCountedWork '" +
+      std::filesystem::read_symlink("/proc/self/exe").string() + "' " + kMeasure + " " + group + " >" +
+      folder.path("log") + " 2>&1";
   if (std::system(command.c_str()) != 0) throw std::runtime_error(bytesOf(folder.path("log")));  // NOLINT
   std::vector<std::uint64_t> counts;
   const std::string summary = "summary: ";

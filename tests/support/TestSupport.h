@@ -58,6 +58,15 @@ std::unique_ptr<Helper> taken(const std::string& xml, const Args&... args) {
   return helper;
 }
 
+/// What a getter that fills a text in, and says whether there is one, made of the text "untouched"; "no, " comes first
+/// when there is none.
+template <typename Helper, typename Getter, typename... Args>
+std::string filled(Helper& helper, Getter getter, const Args&... args) {
+  I18NString text("untouched");
+  const bool found = (helper.*getter)(args..., text);
+  return (found ? "" : "no, ") + text.toUtf8();
+}
+
 /// The command in its envelope, with the identifiers that commands have by default, or others.
 std::string inEnvelope(const std::string& command, const std::string& commandID = "DXCommand",
                        const std::string& requestID = "DXRequest");

@@ -26,15 +26,11 @@ void setUser(Request& request, I18NString name) {
 }
 
 std::string parameter(Request& request, Request::EParameters parameter) {
-  I18NString value("untouched");
-  const bool found = request.GetParameter(parameter, value);
-  return (found ? "" : "no, ") + value.toUtf8();
+  return filled(request, &Request::GetParameter, parameter);
 }
 
 std::string answer(const std::string& xml, Request::ETasks task) {
-  I18NString response("untouched");
-  const bool found = taken<DXMaterializeResponseHelper>(xml)->GetResponse(task, response);
-  return (found ? "" : "no, ") + response.toUtf8();
+  return filled(*taken<DXMaterializeResponseHelper>(xml), &DXMaterializeResponseHelper::GetResponse, task);
 }
 
 }  // namespace

@@ -32,16 +32,11 @@ TEST(ImportConfig, AnswersFromTheElementAsItIsNow) {
   TRNIDOM_Element element = parsed("<source queryType='' pluginName='plug'/>");
   Config config;
   config.Take(element);
-  I18NString answer("before");
-  EXPECT_FALSE(config.getQueryType(answer));
-  EXPECT_EQ("", answer);
-  EXPECT_TRUE(config.getPluginName(answer));
-  EXPECT_EQ("plug", answer);
-  EXPECT_FALSE(config.getInterfaceType(answer));
-  EXPECT_EQ("", answer);
+  EXPECT_EQ("no, ", filled(config, &Config::getQueryType));
+  EXPECT_EQ("plug", filled(config, &Config::getPluginName));
+  EXPECT_EQ("no, ", filled(config, &Config::getInterfaceType));
   element.setAttribute("interfaceType", "direct");
-  EXPECT_TRUE(config.getInterfaceType(answer));
-  EXPECT_EQ("direct", answer);
+  EXPECT_EQ("direct", filled(config, &Config::getInterfaceType));
 }
 
 TEST(ImportConfig, FirstConnectionAtAnyDepthCountsWithItsProviderIfAny) {
@@ -49,14 +44,10 @@ TEST(ImportConfig, FirstConnectionAtAnyDepthCountsWithItsProviderIfAny) {
       "<source><x> <connection provider='p1'><item name='a' nameInRequest='A'/><y><item name='b'/></y>"
       "<connection provider='inner'><item name='c' nameInRequest='C'/></connection></connection></x>"
       "<connection provider='p2'><item name='d'/></connection></source>");
-  I18NString provider;
-  EXPECT_TRUE(config->getConnectionProvider(provider));
-  EXPECT_EQ("p1", provider);
+  EXPECT_EQ("p1", filled(*config, &Config::getConnectionProvider));
   EXPECT_EQ("a=A;b=;c=C;", connectionItems(*config));
-  EXPECT_FALSE(taken<Config>("<source/>")->getConnectionProvider(provider));
-  EXPECT_EQ("p1", provider) << "without connection it stays as it was";
-  EXPECT_FALSE(taken<Config>("<source><connection/></source>")->getConnectionProvider(provider));
-  EXPECT_EQ("", provider);
+  EXPECT_EQ("no, untouched", filled(*taken<Config>("<source/>"), &Config::getConnectionProvider));
+  EXPECT_EQ("no, ", filled(*taken<Config>("<source><connection/></source>"), &Config::getConnectionProvider));
 }
 
 TEST(ImportConfig, CapabilitiesAreAddedToTheCallers) {
@@ -68,10 +59,9 @@ TEST(ImportConfig, CapabilitiesAreAddedToTheCallers) {
 
 TEST(ImportConfig, BeforeAnythingWasTakenThereAreNoAnswersAndNothingIsEverWritten) {
   Config config;
-  I18NString answer("before");
-  EXPECT_FALSE(config.getQueryType(answer) || config.getPluginName(answer) || config.getInterfaceType(answer) ||
-               config.getConnectionProvider(answer));
-  EXPECT_EQ("before", answer);
+  for (const auto getter :
+       {&Config::getQueryType, &Config::getPluginName, &Config::getInterfaceType, &Config::getConnectionProvider})
+    EXPECT_EQ("no, untouched", filled(config, getter));
   EXPECT_EQ("", connectionItems(config));
   EXPECT_EQ("held=;", capabilities(config));
   EXPECT_TRUE(madeElement(config).isNull());
@@ -85,6 +75,5 @@ TEST(ImportConfig, TakesOnlyASource) {
   const auto config = taken<Config>("<source queryType='q'/>");
   expectAssert(text, "DXActionHelperImportConfig", [&] { take(*config, TRNIDOM_Element()); });
   EXPECT_THROW(take(*config, "<other/>"), TRNAssertError);
-  I18NString answer;
-  EXPECT_TRUE(config->getQueryType(answer)) << "what is refused is not remembered";
+  EXPECT_EQ("q", filled(*config, &Config::getQueryType)) << "what is refused is not remembered";
 }

@@ -44,12 +44,6 @@ TEST(VqeGetJoinPathsHelper, JoinsCountAtAnyDepthBelowAPathOnlyAndAreAddedToTheCa
   EXPECT_EQ((Joins{"", "ab", "held"}), joins);
 }
 
-TEST(VqeGetJoinPathsHelper, PathsAfterNestedOnesAreNotLost) {
-  EXPECT_EQ((Joins{"a", "b", "c", "d"}),
-            joinsOf("<r><joinPath><joinPath><join>a</join><joinPath/></joinPath><join>b</join></joinPath>"
-                    "<x><joinPath><join>c</join></joinPath></x><joinPath><join>d</join></joinPath></r>"));
-}
-
 TEST(VqeGetJoinPathsHelper, JoinsAreThoseOfEachPathWhereverTheyStand) {
   feedRandomTrees(parsed("<response><joinPath/><join>b</join></response>"), [](TRNIDOM_Element& tree) {
     Joins expected;

@@ -8,6 +8,10 @@ namespace {
 
 using Texts = std::vector<I18NString>;
 
+std::string feedback(const QFResponseDomHelper& response, QFExecuteCommandHelper::EQueryFeedback kind) {
+  return filled(response, &QFResponseDomHelper::GetQueryFeedback, kind);
+}
+
 std::vector<Texts> rowsOf(const QFResponseDomHelper& response) {
   std::vector<Texts> rows;
   for (TRNIDOM_Element row = response.GetFirstResultSetRow(); !row.isNull(); row = response.GetNextResultSetRow(row)) {
@@ -21,9 +25,7 @@ std::vector<Texts> rowsOf(const QFResponseDomHelper& response) {
 
 TEST(QFResponseDomHelper, EmptyRepliesAndNoReplyGiveNothing) {
   const auto givesNothing = [](const QFResponseDomHelper& response) {
-    I18NString value("kept");
-    EXPECT_FALSE(response.GetQueryFeedback(QFExecuteCommandHelper::kQueryFeedbackTableType, value));
-    EXPECT_EQ("kept", value);
+    EXPECT_EQ("no, untouched", feedback(response, QFExecuteCommandHelper::kQueryFeedbackTableType));
     std::vector<QFResponseDomHelper::DataSource> sources;
     response.GetResponseDataSources(sources);
     EXPECT_TRUE(sources.empty());
@@ -45,13 +47,10 @@ TEST(QFResponseDomHelper, FeedbackIsTheFirstPropertyOfThatNameWithContent) {
       R"(<r><x><queryFeedbackResult><property name="tableType"/><p><property name="tableType">one<b/>two</property></p>)"
       R"(<property name="tableType">later</property><property name="plan"><e/></property></queryFeedbackResult></x>)"
       R"(<queryFeedbackResult><property name="columnList">second result</property></queryFeedbackResult></r>)");
-  I18NString value("kept");
-  EXPECT_TRUE(response->GetQueryFeedback(QFExecuteCommandHelper::kQueryFeedbackTableType, value));
-  EXPECT_EQ("one", value);
-  EXPECT_FALSE(response->GetQueryFeedback(QFExecuteCommandHelper::kQueryFeedbackColumnList, value));
-  EXPECT_EQ("one", value);
-  EXPECT_TRUE(response->ExtractRetrieveProperty("plan", value));
-  EXPECT_EQ("", value) << "an element as first child has no value";
+  EXPECT_EQ("one", feedback(*response, QFExecuteCommandHelper::kQueryFeedbackTableType));
+  EXPECT_EQ("no, untouched", feedback(*response, QFExecuteCommandHelper::kQueryFeedbackColumnList));
+  // An element as first child has no value.
+  EXPECT_EQ("", filled(*response, &QFResponseDomHelper::ExtractRetrieveProperty, I18NString("plan")));
 }
 
 TEST(QFResponseDomHelper, DataSourcesAreReadAtAnyDepthAndAppended) {
