@@ -121,6 +121,7 @@ class Finder {
   static constexpr std::size_t kLongestName = 128;
   static constexpr std::size_t kLongestLogin = 512;
   static constexpr std::size_t kLongestTag = 512;
+  static constexpr std::size_t kLongestInner = 4096;
 
   char at(std::size_t index) const { return index < m_text.size() ? m_text[index] : '\0'; }
 
@@ -165,10 +166,15 @@ class Finder {
     return words;
   }
 
-  /// `name=value` and `name: value`
-  void value(std::size_t sign) {
-    if (at(sign + 1) == '/' && at(sign + 2) == '/') return;  // of a URL
-    if (!areSecret(nameBefore(sign))) return;
+  /// What stands behind a sign, as far as it may be one value.
+  struct Value {
+    std::size_t begin;
+    std::size_t inside;  ///< behind the quote that it may begin with
+    std::size_t end;
+    std::size_t closing;  ///< the length of the quote that it ends with
+  };
+
+  Value valueBehind(std::size_t sign) const {
     const std::size_t first = skipSpaces(sign + 1);
     std::size_t quote = first;
     while (at(quote) == '\\') ++quote;
@@ -178,36 +184,42 @@ class Finder {
       const bool isQuote = open == close;
       // In a text within a text the quotes are escaped: there the closing one is as the opening one.
       const std::string closing = std::string(m_text.substr(first, quote - first)) + close;
-      std::size_t end = closingAt(quote + 1, closing);
-      // What follows a name may be no closing quote, but open the next secret: that is hidden too.
-      while (isQuote && end < m_text.size() && isSignOfSecret(end - 1)) {
-        const std::size_t next = closingAt(end + closing.size(), closing);
-        if (next == m_text.size()) break;
-        end = next;
-      }
+      const std::size_t end = closingAt(quote + 1, closing);
       const bool isClosed = end < m_text.size();
       const std::size_t behind = std::min(end + closing.size(), m_text.size());
       const std::size_t next = skipSpaces(behind);
-      const bool isWhole = !isClosed || next == m_text.size() ||
-                           ";,&)}]>/\n\r?\"'\\"sv.find(m_text[next]) != std::string_view::npos ||
-                           (isQuote && next > behind);
-      if (m_text[sign] == ':' && isQuote && isWhole) {
-        // JSON stays JSON.
-        set(quote + 1, end);
-        return;
-      }
-      if (isWhole) {
-        set(m_text[sign] == '=' ? sign + 1 : first, behind);
-        return;
-      }
+      if (!isClosed || next == m_text.size() || ";,&)}]>/\n\r?\"'\\"sv.find(m_text[next]) != std::string_view::npos ||
+          (isQuote && next > behind))
+        return {first, isQuote ? quote + 1 : first, behind, isQuote && isClosed ? closing.size() : 0};
     }
     // Spaces behind "=" may belong to the value.
-    set(m_text[sign] == '=' ? sign + 1 : first, findAny(isJsonKey(sign) ? ",}];\n\r"sv : ";\n\r"sv, first));
+    return {first, first, findAny(isJsonKey(sign) ? ",}];\n\r"sv : ";\n\r"sv, first), 0};
   }
 
-  /// Whether the value of a secret would begin behind this.
-  bool isSignOfSecret(std::size_t index) const {
-    return (m_text[index] == '=' || m_text[index] == ':') && areSecret(nameBefore(index));
+  /// `name=value` and `name: value`
+  void value(std::size_t sign) {
+    if (at(sign + 1) == '/' && at(sign + 2) == '/') return;  // of a URL
+    if (!areSecret(nameBefore(sign))) return;
+    const Value found = valueBehind(sign);
+    const std::size_t end = endWithSecrets(found);
+    // JSON stays JSON.
+    const bool isClosed = found.closing > 0 && m_text[end - 1] == m_text[found.end - 1];
+    set(m_text[sign] == '=' ? sign + 1 : found.inside, m_text[sign] == ':' && isClosed ? end - found.closing : end);
+  }
+
+  /// The end of the value, or of a secret that begins in it and goes on behind it: in a text of any making a quote may
+  /// close one value and open another.
+  std::size_t endWithSecrets(const Value& value) const {
+    std::size_t end = value.end;
+    for (std::size_t sign = findAny("=:", value.begin); sign < end && end < m_text.size();
+         sign = findAny("=:", sign + 1)) {
+      if (!areSecret(nameBefore(sign))) continue;
+      // No further than that, so that the time does not grow with the square of the text: then all the rest is hidden.
+      const Finder near(m_text.substr(0, sign + kLongestInner));
+      const std::size_t innerEnd = near.valueBehind(sign).end;
+      end = std::max(end, innerEnd < near.m_text.size() ? innerEnd : m_text.size());
+    }
+    return end;
   }
 
   /// Whether the name before the sign is in quotes, and the sign a colon.
