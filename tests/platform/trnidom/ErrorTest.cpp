@@ -120,7 +120,8 @@ TEST_F(Errors, DocumentNamesMustGoWithTheirNamespace) {
     return xmlOf(TRNIDOM_DOMImplementation::getInstance().createDocument(uri, name, TRNIDOM_DocumentType()));
   };
   EXPECT_EQ("<p:a/>", create("urn:x", "p:a"));
-  for (const char* name : {"1", "a b", "<"}) refused(Error::INVALID_CHARACTER_ERR, document, [&] { create("", name); });
+  for (const char* name : {"1", "a b", "<", "a\xC3\x97"})
+    refused(Error::INVALID_CHARACTER_ERR, document, [&] { create("", name); });
   refused(Error::INVALID_CHARACTER_ERR, document,
           [&] { document.createElement(I18NString::fromUtf16(u"a\xD800", 2)); });
   for (const char* name : {"p:a", "xml:a", ":a", "a:", "a:b:c"})

@@ -235,10 +235,16 @@ TEST(CommandLine, OutputIsWrittenWholeOrNotAtAll) {
   EXPECT_EQ((std::vector<std::string>{"out.xml", "short.xml"}), folder.names());
 }
 
-TEST(CommandLine, OneKindIsDescribedForPrograms) {
-  const Json kind = Json::parse(run({"kinds", "execute", "--json"}).out);
-  EXPECT_EQ("execute", kind["kind"]);
-  EXPECT_EQ("QFExecuteCommandHelper", kind["class"]);
+TEST(CommandLine, KindsAreDescribedForPrograms) {
+  const Json all = Json::parse(run({"kinds", "--json"}).out);
+  ASSERT_EQ(allKinds().size(), all.size());
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    const Kind& kind = allKinds()[i];
+    EXPECT_EQ(kind.name, all[i]["kind"].get<std::string>());
+    EXPECT_EQ(all[i], Json::parse(run({"kinds", kind.name, "--json"}).out));
+    const Json schema = Json::parse(run({"schema", kind.name}).out);
+    EXPECT_EQ("https://json-schema.org/draft/2020-12/schema", schema["$schema"]) << kind.name;
+  }
 }
 
 TEST(CommandLine, EveryExceptionIsAStatusWithItsText) {
