@@ -64,6 +64,23 @@ TEST(Binary, FileThatMayNotGrowLeavesNothing) {
   EXPECT_EQ(std::vector<std::string>{"out"}, folder.names());
 }
 
+TEST(Binary, TerminalHasColoursUnlessTheyAreUnwanted) {
+  const TempFolder folder;
+  const std::string reply = folder.add("reply.xml", "<response/>");
+  const auto coloured = [&](const std::string& environment) {
+    EXPECT_EQ(0, shell("env -u NO_COLOR " + environment + " script -qec '" DXMD_BINARY " decode response " + reply +
+                       "' /dev/null < /dev/null > " + folder.path("out")));
+    const std::string shown = bytesOf(folder.path("out"));
+    EXPECT_NE(std::string::npos, shown.find("\"rows\"")) << shown;
+    return shown.find("\x1B[34m") != std::string::npos;
+  };
+  EXPECT_TRUE(coloured("TERM=xterm"));
+  EXPECT_TRUE(coloured("TERM=xterm NO_COLOR="));
+  EXPECT_FALSE(coloured("TERM=xterm NO_COLOR=1"));
+  EXPECT_FALSE(coloured("TERM=dumb"));
+  EXPECT_FALSE(coloured("-u TERM"));
+}
+
 TEST(Binary, StandardOutputByNameIsAppendedTo) {
   const TempFolder folder;
   const std::string log = folder.add("log", "before\n");

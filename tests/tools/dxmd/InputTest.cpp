@@ -81,6 +81,7 @@ TEST(DecodeKind, PageOfHtmlIsNoMessage) {
       const std::vector<std::string> args{"decode", kind};
       expectFailure(kStatusUnfit, why, run({args.begin(), args.end() - (*kind == '\0' ? 1 : 0)}, start + page));
     }
+  expectFailure(kStatusUnfit, "standard input: no message, but a page of HTML", run({"decode"}, "<html><br></html>"));
 }
 
 TEST(DecodeReply, ErrorsHaveAStatusOfTheirOwn) {
@@ -235,6 +236,8 @@ TEST(Diff, TellsWhatDiffersAsDiffDoes) {
                               folder.add("b", "<connection><password value='b'/></connection>")});
   EXPECT_EQ(1, secret.status);
   EXPECT_EQ("- $.password: \"***\"\n+ $.password: \"***\"\n", secret.out);
+  EXPECT_EQ("+ $.password: \"***\"\n",
+            run({"diff", folder.add("c", "<connection/>"), folder.path("b"), "--kind", "connection"}).out);
   const ToolRun kinds = differences("other.xml", kError);
   EXPECT_EQ(1, kinds.status);
   EXPECT_EQ("- kind: \"response\"\n+ kind: \"validateReply\"\n", kinds.out);
