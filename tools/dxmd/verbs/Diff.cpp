@@ -59,7 +59,8 @@ Side sideOf(const Kind* asked, const Settings& settings, const std::string& file
                    return count;
                  }};
   };
-  const Kind& kind = asked != nullptr ? *asked : kindIn(again(), settings.exact);
+  const Input whole = again();
+  const Kind& kind = asked != nullptr ? *asked : kindIn(whole, settings.exact);
   // Read twice, since a large message is printed as it is read.
   const auto decodedWith = [&](bool showSecrets) {
     Settings ofSide = settings;
