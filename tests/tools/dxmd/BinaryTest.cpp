@@ -65,6 +65,7 @@ TEST(Binary, FileThatMayNotGrowLeavesNothing) {
 }
 
 TEST(Binary, TerminalHasColoursUnlessTheyAreUnwanted) {
+  if (shell("script -qec true /dev/null < /dev/null > /dev/null 2>&1") != 0) GTEST_SKIP() << "no pseudo-terminal here";
   const TempFolder folder;
   const std::string reply = folder.add("reply.xml", "<response/>");
   const auto coloured = [&](const std::string& environment) {
