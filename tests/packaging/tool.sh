@@ -11,7 +11,8 @@ diff "$prefix/share/bash-completion/completions/dxmd" <("$prefix/bin/dxmd" help 
 # It finds the schemas from where it is.
 env -i "$prefix/bin/dxmd" example packages | "$prefix/bin/dxmd" encode packages | "$prefix/bin/dxmd" check >/dev/null
 
-command -v dpkg-query >/dev/null || exit 0
+# PACKAGES lists those of Debian 12; other releases have other names.
+grep -qx 'VERSION_CODENAME=bookworm' /etc/os-release && command -v dpkg-query >/dev/null || exit 0
 # What the program and its own libraries name; apt brings what that needs in turn.
 named=$(ldd "$prefix/bin/dxmd" | awk -v own="$prefix/" '$2 == "=>" && index($3, own) == 1 { print $3 }' |
   xargs readelf -d "$prefix/bin/dxmd" | sed -n 's/.*(NEEDED).*\[\(.*\)\]/\1/p')
